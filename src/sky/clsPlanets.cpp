@@ -143,8 +143,60 @@ void clsPlanets::calcPlanets()
     p.setHour(Int(hour));
     p.setMinutes(Frac(hour) * 60);
 
+    // The Vakya method replaces the bodies it knows and the Lagna. Its values are sidereal by its
+    // own reckoning; the Lahiri value of position 13 is added so that the ayanamsa in force can
+    // be taken off below exactly as on the ephemeris path.
+    const bool vakya = AppSettings::Vakya();
+    double x = 0;
+    double vakyaLagna = 0;
+    m_lagnaValid = true;
+    if (vakya) {
+        calcVakyaPlanets();
+        vakyaLagna = PlanetLongi(0);
+        x = PlanetLongi(13);
+        for (int i : {1, 2, 3, 4, 5, 6, 7, 8, 9, 14, 15, 16, 17, 18, 19, 20, 21, 22})
+            setPlanetLongi(i, PlanetLongi(i) + x);
+    }
+
     applyAyanamsa();
     calcBhavas();
+
+    if (vakya)
+        setPlanetLongi(0, Norm360(vakyaLagna + x - PlanetLongi(13)));
+}
+
+clsVakya &clsPlanets::Vakya()
+{
+    if (!m_vakya)
+        m_vakya = std::make_unique<clsVakya>();
+    return *m_vakya;
+}
+
+void clsPlanets::calcVakyaPlanets()
+{
+    const clsPerson &p = Person();
+    clsVakya &v = Vakya();
+    const bool south = p.TextNS().compare(QLatin1String("S"), Qt::CaseInsensitive) == 0;
+    const auto cast = [&](int day) {
+        v.Calculate(day, static_cast<int>(p.Month()), static_cast<int>(p.Year()), static_cast<int>(p.Hour()),
+                    static_cast<int>(p.Minutes()), static_cast<int>(p.seconds()), p.LatDeg(), p.LatMT(), p.LongDeg(),
+                    p.LongMT(), PlanetLongi(13), south);
+    };
+    // The day after first: the table of later positions holds one day later in this method.
+    cast(static_cast<int>(p.Day()) + 1);
+    const std::array<std::pair<int, double>, 9> later{{{14, v.Sun()}, {15, v.Mercury()}, {16, v.Venus()}, {17, v.Mars()},
+                                                        {18, v.Jupiter()}, {19, v.Saturn()}, {20, v.Moon()}, {21, v.Rahu()},
+                                                        {22, v.Ketu()}}};
+    for (const auto &[n, value] : later)
+        setPlanetLongi(n, value);
+    cast(static_cast<int>(p.Day()));
+    const std::array<std::pair<int, double>, 9> now{{{1, v.Sun()}, {2, v.Mercury()}, {3, v.Venus()}, {4, v.Mars()},
+                                                      {5, v.Jupiter()}, {6, v.Saturn()}, {7, v.Moon()}, {8, v.Rahu()},
+                                                      {9, v.Ketu()}}};
+    for (const auto &[n, value] : now)
+        setPlanetLongi(n, value);
+    setPlanetLongi(0, v.Lagna());
+    m_lagnaValid = v.LagnaValid();
 }
 
 long clsPlanets::CalcDayNumber(long d, long m, long y)
@@ -247,6 +299,12 @@ double clsPlanets::ayanamsaByChoice(int type, double yd) const
         return KPAyanVal();
     case 13:
         return Val(AppSettings::CustAyan());
+    case 15: {
+        // The Kali day of the person's date as it stands now, the local date on both paths.
+        const clsPerson &p = Person();
+        return clsVakya::CalcVakyaAyanamsha(
+            clsVakya::KaliDinOf(static_cast<int>(p.Day()), static_cast<int>(p.Month()), static_cast<int>(p.Year())));
+    }
     default:
         return 0; // 12 and 14: nothing is taken off
     }

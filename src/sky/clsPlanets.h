@@ -5,6 +5,7 @@
 // 8 Rahu, 9 Ketu, 10 Uranus, 11 Neptune, 12 Pluto.
 
 #include "session/clsPerson.h"
+#include "sky/clsVakya.h"
 
 #include <QDateTime>
 #include <QSqlDatabase>
@@ -82,6 +83,11 @@ public:
     // Adds n days to the person's date across at most one month end; n keeps what is left.
     void AddDaysToDOB(long &n);
 
+    // The Vakya method's object of this chart; made on first need.
+    clsVakya &Vakya();
+    // True unless the last Calculate used the Vakya method at a latitude where its Lagna is undefined.
+    bool LagnaValid() const { return m_lagnaValid; }
+
     // Number of Calculate runs since the program started (for measurements).
     static long CalculateCount();
 
@@ -109,6 +115,7 @@ private:
     void calcPlanets();
     void calcSwePlanets();
     void calcSweNextHour();
+    void calcVakyaPlanets();
     void applyAyanamsa();
     double ayanamsaByChoice(int type, double yd) const;
     void subtractAyan(double ayan);
@@ -131,6 +138,8 @@ private:
     double m_sidrealTime = 0;
     int m_rahuKetuMode = 1;
     int m_utDay = 0, m_utMonth = 0, m_utYear = 0;
+    bool m_lagnaValid = true;
     std::unique_ptr<clsPerson> m_person;
+    std::unique_ptr<clsVakya> m_vakya;
     QSqlDatabase m_textDb, m_recDb;
 };
