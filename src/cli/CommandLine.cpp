@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "cli/CommandLine.h"
+
+#include "session/AppSettings.h"
+#include "session/EntryValidation.h"
+#include "sky/Functions.h"
+#include "sky/clsPlanets.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <array>
+
+namespace {
+
+// A failure of the command's input: already formatted for standard error.
+struct InputError
+{
+    QString text;
+};
+
+QString messageLine(const EntryMessage &m) { return m.title + QStringLiteral(": ") + m.text; }
+
+InputError entryError(int number, const QString &title)
+{
+    EntryMessage m = EntryMessageByNumber(number);
+    m.title = title;
+    return {messageLine(m)};
+}
+
+inline constexpr std::array<const char *, 13> kPlanetNames{
+    "Lagna", "Sun", "Mercury", "Venus", "Mars", "Jupiter", "Saturn", "Moon", "Rahu", "Ketu", "Uranus", "Neptune", "Pluto"};
+inline constexpr std::array<const char *, 12> kSignNames{
+    "Aries", "Taurus", "Gemini", "Cancer", "Leo", "Virgo", "Libra", "Scorpio", "Sagittarius", "Capricorn", "Aquarius", "Pisces"};
+
+const QString kUsage = QStringLiteral(
+    "Usage: orbanta chart --date DD/MM/YYYY --time HH.MM --lat DDD:MM{N|S} --lon DDD:MM{E|W}\n"
+    "                     --gmt {+|-}HH.MM [--name TEXT] [--sex M|F] [--tcorr {+|-}HH.MM]\n"
+    "                     [--ayanamsa N] [--node mean|true] [--vakya] [--json]\n");
+
+// The birth as the entry screen's masked boxes would hold it.
+struct Birth
+{
+    QString name;
+    int sex = 1;
+    BirthFields fields;
+    QString ns, ew;
+    QString tcorr = QStringLiteral("-00.00");
+    bool tcorrGiven = false;
+};
+
+// Brings "d/m/yyyy", "h.mm", "dd:mmN" forms to the masks, or reports the field's own message.
+Birth readBirth(const QCommandLineParser &p)
+{
+    QStringList missing;
+    for (const char *opt : {"date", "time", "lat", "lon", "gmt"})
+        if (!p.isSet(QString::fromLatin1(opt)))
+            missing << QStringLiteral("--") + QString::fromLatin1(opt);
+    if (!missing.isEmpty())
+        throw InputError{QStringLiteral("Missing ") + missing.join(QStringLiteral(", ")) + QStringLiteral(".\n") + kUsage};
+
+    Birth b;
+    b.name = p.value(QStringLiteral("name")).trimmed();
+    if (p.isSet(QStringLiteral("sex"))) {
+        const QString s = p.value(QStringLiteral("sex")).toUpper();
+        if (s != QLatin1String("M") && s != QLatin1String("F"))
+            throw InputError{QStringLiteral("--sex takes M or F.")};
+        b.sex = s == QLatin1String("M") ? 1 : 2;
+    }
+
+    static const QRegularExpression dateRe(QStringLiteral("^(\\d{1,2})/(\\d{1,2})/(\\d{4})$"));
+    const auto dm = dateRe.match(p.value(QStringLiteral("date")).trimmed());
+    if (!dm.hasMatch())
+        throw entryError(5, QStringLiteral("Invalid Date"));
+    b.fields.date = Two(dm.captured(1).toLong()) + QLatin1Char('/') + Two(dm.captured(2).toLong()) + QLatin1Char('/') + dm.captured(3);
+
+    static const QRegularExpression timeRe(QStringLiteral("^(\\d{1,2})[.:](\\d{2})$"));
+    const auto tm = timeRe.match(p.value(QStringLiteral("time")).trimmed());
+    if (!tm.hasMatch())
+        throw entryError(6, QStringLiteral("Invalid Time"));
+    b.fields.time = Two(tm.captured(1).toLong()) + QLatin1Char('.') + tm.captured(2);
+
+    static const QRegularExpression latRe(QStringLiteral("^(\\d{1,3}):(\\d{2})\\s*([NSns])$"));
+    const auto la = latRe.match(p.value(QStringLiteral("lat")).trimmed());
+    if (!la.hasMatch())
+        throw entryError(10, QStringLiteral("Invalid Lattitude"));
+    b.fields.latitude = QStringLiteral("%1:%2").arg(la.captured(1).toLong(), 3, 10, QLatin1Char('0')).arg(la.captured(2));
+    b.ns = la.captured(3).toUpper();
+
+    static const QRegularExpression lonRe(QStringLiteral("^(\\d{1,3}):(\\d{2})\\s*([EWew])$"));
+    const auto lo = lonRe.match(p.value(QStringLiteral("lon")).trimmed());
+    if (!lo.hasMatch())
+        throw entryError(11, QStringLiteral("Invalid Longitude"));
+    b.fields.longitude = QStringLiteral("%1:%2").arg(lo.captured(1).toLong(), 3, 10, QLatin1Char('0')).arg(lo.captured(2));
+    b.ew = lo.captured(3).toUpper();
+
+    static const QRegularExpression offsetRe(QStringLiteral("^([+-]?)(\\d{1,2})[.:](\\d{2})$"));
+    const auto gm = offsetRe.match(p.value(QStringLiteral("gmt")).trimmed());
+    if (!gm.hasMatch())
+        throw entryError(9, QStringLiteral("Orbanta"));
+    b.fields.gmt = (gm.captured(1) == QLatin1String("-") ? QStringLiteral("-") : QStringLiteral("+")) + Two(gm.captured(2).toLong())
+        + QLatin1Char('.') + gm.captured(3);
+
+    if (p.isSet(QStringLiteral("tcorr"))) {
+        const auto tc = offsetRe.match(p.value(QStringLiteral("tcorr")).trimmed());
+        if (!tc.hasMatch())
+            throw InputError{QStringLiteral("The time correction must be written as {+|-}HH.MM, for example -01.00.")};
+        b.tcorr = (tc.captured(1) == QLatin1String("-") ? QStringLiteral("-") : QStringLiteral("+")) + Two(tc.captured(2).toLong())
+            + QLatin1Char('.') + tc.captured(3);
+        b.tcorrGiven = true;
+    }
+
+    // The same checks as the entry screen: Generate's, then those a field makes on leaving it.
+    const std::vector<EntryMessage> messages = ValidateEntry(b.fields);
+    if (!messages.empty()) {
+        QStringList lines;
+        for (const EntryMessage &m : messages)
+            lines << messageLine(m);
+        throw InputError{lines.join(QLatin1Char('\n'))};
+    }
+    const QString title = QStringLiteral("Orbanta");
+    for (const auto &check : {CheckDateField(b.fields.date), CheckTimeField(b.fields.time), CheckGmtField(b.fields.gmt, title),
+                              CheckLatitudeField(b.fields.latitude, title), CheckLongitudeField(b.fields.longitude)})
+        if (check)
+            throw InputError{messageLine(*check)};
+    return b;
+}
+
+// Copies the fields into the chart's person as Generate does.
+void fillPerson(const Birth &b, clsPerson &person)
+{
+    const BirthFields &f = b.fields;
+    person.setName(b.name);
+    person.setSex(b.sex);
+    person.setDay(Val(f.date.mid(0, 2)));
+    person.setMonth(Val(f.date.mid(3, 2)));
+    person.setYear(Val(f.date.right(4)));
+    person.setHour(Val(f.time.left(2)));
+    person.setMinutes(Val(f.time.right(2)));
+    person.setAMPM(person.Hour() >= 12 ? 2 : 1);
+    person.setGMTDIFF(NumText(GmtTextToHours(f.gmt)));
+    person.setLatDeg(Val(f.latitude.left(3)));
+    person.setLatMT(Val(f.latitude.right(2)));
+    person.setTextNS(b.ns);
+    person.setLongDeg(Val(f.longitude.left(3)));
+    person.setLongMT(Val(f.longitude.right(2)));
+    person.setTextEW(b.ew);
+    person.setTimeCorr(b.tcorr);
+    person.setTimeCorrInde(b.tcorrGiven ? 4 : 0);
+}
+
+void applyOverrides(const QCommandLineParser &p)
+{
+    if (p.isSet(QStringLiteral("ayanamsa"))) {
+        bool ok = false;
+        const int n = p.value(QStringLiteral("ayanamsa")).toInt(&ok);
+        if (!ok || n < 1 || n > 15)
+            throw InputError{QStringLiteral("--ayanamsa takes a choice from 1 to 15.")};
+        AppSettings::overrideForRun(QStringLiteral("Init"), QStringLiteral("AyanType"), n);
+    }
+    if (p.isSet(QStringLiteral("node"))) {
+        const QString v = p.value(QStringLiteral("node")).toLower();
+        if (v != QLatin1String("mean") && v != QLatin1String("true"))
+            throw InputError{QStringLiteral("--node takes mean or true.")};
+        AppSettings::overrideForRun(QStringLiteral("Init"), QStringLiteral("RahuKetuMode"), v == QLatin1String("mean") ? 1 : 2);
+    }
+    if (p.isSet(QStringLiteral("vakya")))
+        AppSettings::overrideForRun(QStringLiteral("Init"), QStringLiteral("Vakya"), true);
+}
+
+QJsonObject chartJson(const clsPlanets &chart)
+{
+    const clsPerson &person = chart.Person();
+    QJsonObject o;
+    o.insert(QStringLiteral("person"), QJsonObject{
+                                           {QStringLiteral("name"), person.Name()},
+                                           {QStringLiteral("day"), static_cast<qint64>(person.Day())},
+                                           {QStringLiteral("month"), static_cast<qint64>(person.Month())},
+                                           {QStringLiteral("year"), static_cast<qint64>(person.Year())},
+                                           {QStringLiteral("hour"), static_cast<qint64>(person.Hour())},
+                                           {QStringLiteral("minutes"), static_cast<qint64>(person.Minutes())},
+                                       });
+    o.insert(QStringLiteral("ayanamsa_type"), chart.AyanType());
+    o.insert(QStringLiteral("ayanamsa"), chart.PlanetLongi(13));
+    o.insert(QStringLiteral("kp_ayanamsa"), chart.KPAyanVal());
+    o.insert(QStringLiteral("obliquity"), chart.Obliq());
+    o.insert(QStringLiteral("sidereal_time"), chart.SidrealTime());
+    QJsonArray planets;
+    for (int n = 0; n <= 12; ++n) {
+        QJsonObject pl{{QStringLiteral("n"), n}, {QStringLiteral("longitude"), chart.PlanetLongi(n)}};
+        if (n != 0)
+            pl.insert(QStringLiteral("next"), chart.PlanetLongi(n + 13));
+        pl.insert(QStringLiteral("retrograde"), chart.RetroGrade(n));
+        planets.append(pl);
+    }
+    o.insert(QStringLiteral("planets"), planets);
+    QJsonArray cusps;
+    for (int i = 1; i <= 12; ++i)
+        cusps.append(chart.KPHouse(i));
+    o.insert(QStringLiteral("kp_cusps"), cusps);
+    return o;
+}
+
+void writeTable(const clsPlanets &chart, QTextStream &out)
+{
+    const clsPerson &p = chart.Person();
+    out << "Name      : " << (p.Name().isEmpty() ? QStringLiteral("-") : p.Name()) << '\n';
+    out << "Born      : " << p.DayText() << '/' << p.MonthText() << '/' << p.Year() << ' ' << p.GetBirthTime()
+        << "  GMT " << p.GMTDIFF() << "  " << p.GetLatitudeFull() << "  " << p.GetLongitudeFull() << '\n';
+    out << "Ayanamsa  : " << clsPlanets::DecToDeg(chart.PlanetLongi(13)) << "  (choice " << chart.AyanType() << ")\n\n";
+    out << QStringLiteral("%1 %2 %3 %4 %5\n")
+               .arg(QStringLiteral("Planet"), -9)
+               .arg(QStringLiteral("Longitude"), -11)
+               .arg(QStringLiteral("Sign"), -12)
+               .arg(QStringLiteral("In sign"), -10)
+               .arg(QStringLiteral("Motion"));
+    for (int n = 0; n <= 12; ++n) {
+        const double l = chart.PlanetLongi(n);
+        const int sign = static_cast<int>(Int(l / 30)) % 12;
+        QString motion = QStringLiteral("-");
+        if (n != 0)
+            motion = chart.RetroGrade(n) ? QStringLiteral("R") : QStringLiteral("D");
+        out << QStringLiteral("%1 %2 %3 %4 %5\n")
+                   .arg(QString::fromLatin1(kPlanetNames[static_cast<size_t>(n)]), -9)
+                   .arg(clsPlanets::DecToDeg(l), -11)
+                   .arg(QString::fromLatin1(kSignNames[static_cast<size_t>(sign)]), -12)
+                   .arg(clsPlanets::ConvertValNoDeg(l - sign * 30.0), -10)
+                   .arg(motion);
+    }
+}
+
+int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
+{
+    QCommandLineParser p;
+    p.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    p.addOptions({
+        {QStringLiteral("date"), QStringLiteral("Date of birth."), QStringLiteral("DD/MM/YYYY")},
+        {QStringLiteral("time"), QStringLiteral("Clock time of birth, 24-hour."), QStringLiteral("HH.MM")},
+        {QStringLiteral("lat"), QStringLiteral("Latitude."), QStringLiteral("DDD:MM{N|S}")},
+        {QStringLiteral("lon"), QStringLiteral("Longitude."), QStringLiteral("DDD:MM{E|W}")},
+        {QStringLiteral("gmt"), QStringLiteral("Zone offset from GMT."), QStringLiteral("{+|-}HH.MM")},
+        {QStringLiteral("name"), QStringLiteral("Name."), QStringLiteral("TEXT")},
+        {QStringLiteral("sex"), QStringLiteral("M or F."), QStringLiteral("M|F")},
+        {QStringLiteral("tcorr"), QStringLiteral("Time correction, e.g. -01.00."), QStringLiteral("{+|-}HH.MM")},
+        {QStringLiteral("ayanamsa"), QStringLiteral("Ayanamsa choice 1..15."), QStringLiteral("N")},
+        {QStringLiteral("node"), QStringLiteral("Rahu and Ketu: mean or true."), QStringLiteral("mean|true")},
+        {QStringLiteral("vakya"), QStringLiteral("Cast by the traditional Vakya method.")},
+        {QStringLiteral("json"), QStringLiteral("Print one JSON object.")},
+        {QStringLiteral("help"), QStringLiteral("Show this help.")},
+    });
+    if (!p.parse(QStringList{QStringLiteral("orbanta")} + args)) {
+        err << p.errorText() << '\n' << kUsage;
+        return 2;
+    }
+    if (p.isSet(QStringLiteral("help"))) {
+        out << kUsage;
+        return 0;
+    }
+    if (!p.positionalArguments().isEmpty()) {
+        err << "Unexpected argument: " << p.positionalArguments().first() << '\n' << kUsage;
+        return 2;
+    }
+    try {
+        const Birth birth = readBirth(p);
+        applyOverrides(p);
+        if (AppSettings::Vakya())
+            if (const auto m = CheckVakyaLatitude(birth.fields.latitude))
+                throw InputError{messageLine(*m)};
+        clsPlanets chart;
+        fillPerson(birth, chart.Person());
+        chart.Calculate();
+        if (p.isSet(QStringLiteral("json")))
+            out << QJsonDocument(chartJson(chart)).toJson(QJsonDocument::Compact) << '\n';
+        else
+            writeTable(chart, out);
+    } catch (const InputError &e) {
+        AppSettings::clearOverrides();
+        err << e.text << '\n';
+        return 2;
+    }
+    AppSettings::clearOverrides();
+    return 0;
+}
+
+} // namespace
+
+bool IsCommandLineMode(const QStringList &args)
+{
+    return !args.isEmpty() && (args.first() == QLatin1String("chart"));
+}
+
+int RunCommandLine(const QStringList &args, QTextStream &out, QTextStream &err)
+{
+    if (args.isEmpty())
+        return 2;
+    const QString command = args.first();
+    if (command == QLatin1String("chart"))
+        return runChart(args.mid(1), out, err);
+    err << "Unknown command: " << command << '\n';
+    return 2;
+}

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "cli/CommandLine.h"
+#include "support/TestSupport.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+namespace {
+struct CliRun
+{
+    int status;
+    QString out;
+    QString err;
+};
+
+CliRun run(const QStringList &args)
+{
+    QString out, err;
+    QTextStream o(&out), e(&err);
+    const int status = RunCommandLine(args, o, e);
+    o.flush();
+    e.flush();
+    return {status, out, err};
+}
+
+const QStringList kDelhi{"chart", "--date", "15/08/1980", "--time", "14.35", "--lat", "28:38N", "--lon", "77:12E", "--gmt", "+05.30"};
+} // namespace
+
+TEST(CommandLine, JsonHoldsTheChartAndThePersonAfterTheCast)
+{
+    ScopedSettingsStore store;
+    const CliRun r = run(kDelhi + QStringList{"--json", "--name", "Asha"});
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.err.isEmpty());
+    const QJsonObject o = QJsonDocument::fromJson(r.out.toUtf8()).object();
+    ASSERT_FALSE(o.isEmpty());
+    const QJsonObject person = o["person"].toObject();
+    EXPECT_EQ(person["name"].toString(), "Asha");
+    EXPECT_EQ(person["day"].toInt(), 15);
+    EXPECT_EQ(person["hour"].toInt(), 14);
+    EXPECT_EQ(person["minutes"].toInt(), 35);
+    EXPECT_EQ(o["ayanamsa_type"].toInt(), 1);
+    EXPECT_NEAR(o["ayanamsa"].toDouble(), 23.586, 0.001);
+    for (const char *key : {"kp_ayanamsa", "obliquity", "sidereal_time"})
+        EXPECT_TRUE(o[key].isDouble()) << key;
+    const QJsonArray planets = o["planets"].toArray();
+    ASSERT_EQ(planets.size(), 13);
+    EXPECT_FALSE(planets[0].toObject().contains("next"));
+    EXPECT_TRUE(planets[7].toObject()["next"].isDouble());
+    EXPECT_NEAR(planets[1].toObject()["longitude"].toDouble(), 119.09, 0.01); // Sun in late Cancer
+    EXPECT_TRUE(planets[8].toObject()["retrograde"].toBool());                // the mean node
+    EXPECT_EQ(o["kp_cusps"].toArray().size(), 12);
+}
+
+TEST(CommandLine, OptionsOverrideTheStoreForTheRunOnly)
+{
+    ScopedSettingsStore store;
+    AppSettings::setAyanType(2);
+    const CliRun r = run(kDelhi + QStringList{"--json", "--ayanamsa", "12", "--node", "true"});
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    const QJsonObject o = QJsonDocument::fromJson(r.out.toUtf8()).object();
+    EXPECT_EQ(o["ayanamsa_type"].toInt(), 12);
+    EXPECT_EQ(o["ayanamsa"].toDouble(), 0);
+    EXPECT_EQ(AppSettings::AyanType(), 2);
+    EXPECT_EQ(AppSettings::RahuKetuMode(), 1);
+    EXPECT_FALSE(AppSettings::value("Init", "RahuKetuMode").isValid()); // nothing was written
+}
+
+TEST(CommandLine, TimeCorrectionLeavesTheClockEarlier)
+{
+    ScopedSettingsStore store;
+    const CliRun r = run(kDelhi + QStringList{"--json", "--tcorr", "-01.00"});
+    ASSERT_EQ(r.status, 0);
+    const QJsonObject person = QJsonDocument::fromJson(r.out.toUtf8()).object()["person"].toObject();
+    EXPECT_EQ(person["hour"].toInt(), 13);
+    EXPECT_EQ(person["minutes"].toInt(), 35);
+}
+
+TEST(CommandLine, BadInputGivesTheEntryScreensMessageAndStatusTwo)
+{
+    ScopedSettingsStore store;
+    struct Case
+    {
+        QStringList replace; // option, value
+        const char *message;
+    };
+    const Case cases[] = {
+        {{"--date", "31/02/1980"}, "Invalid Date: The Date You Have Entered is Invalid. Please enter a Valid Date after 1900 AD."},
+        {{"--date", "31/12/1899"}, "Invalid Date"},
+        {{"--time", "25.00"}, "Invalid Time: The Time You Have Entered is Invalid. Please Enter a Valid Time."},
+        {{"--time", "10.60"}, "Invalid Time"},
+        {{"--lat", "28:60N"}, "Invalid Lattitude: The Lattitude You Have Entered is Invalid, Please Enter A Valid Lattitude"},
+        {{"--lat", "120:00N"}, "The Latitude You Have Entered is Invalid. Please Enter Valid Latitude"},
+        {{"--lon", "180:00E"}, "Invalid Longitude: The Longitude You Have Entered is Invalid. Please Enter Valid Longitude"},
+        {{"--lon", "77.12E"}, "Invalid Longitude"},
+        {{"--gmt", "+13.00"}, "The GMT You Have Entered is Invalid, Please Enter Valid GMT"},
+        {{"--ayanamsa", "16"}, "--ayanamsa takes a choice from 1 to 15."},
+        {{"--node", "both"}, "--node takes mean or true."},
+        {{"--tcorr", "1h"}, "The time correction must be written"},
+    };
+    for (const Case &c : cases) {
+        QStringList args = kDelhi;
+        const int at = args.indexOf(c.replace[0]);
+        if (at >= 0)
+            args[at + 1] = c.replace[1];
+        else
+            args << c.replace;
+        const CliRun r = run(args);
+        EXPECT_EQ(r.status, 2) << c.replace.join(' ').toStdString();
+        EXPECT_TRUE(r.out.isEmpty()) << c.replace.join(' ').toStdString();
+        EXPECT_TRUE(r.err.contains(QString::fromUtf8(c.message))) << r.err.toStdString();
+    }
+    // Generate's checks come together, in their order.
+    QStringList both = kDelhi;
+    both[both.indexOf("--time") + 1] = "24.60";
+    both[both.indexOf("--lon") + 1] = "181:00E";
+    const CliRun r = run(both);
+    EXPECT_EQ(r.status, 2);
+    EXPECT_LT(r.err.indexOf("Invalid Time"), r.err.indexOf("Invalid Longitude"));
+    EXPECT_EQ(run({"chart", "--date", "15/08/1980"}).status, 2);
+    EXPECT_EQ(run({"chart", "--bogus"}).status, 2);
+}
+
+TEST(CommandLine, VakyaRefusesPlacesWhereItsLagnaIsUndefined)
+{
+    ScopedSettingsStore store;
+    QStringList args = kDelhi;
+    args[args.indexOf("--lat") + 1] = "69:39N";
+    const CliRun r = run(args + QStringList{"--vakya"});
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.err.contains("66.5"));
+    EXPECT_EQ(run(args).status, 0); // the ephemeris has an answer there
+    EXPECT_EQ(run(kDelhi + QStringList{"--vakya"}).status, 0);
+}
+
+TEST(CommandLine, ReadableTableNamesEveryBody)
+{
+    ScopedSettingsStore store;
+    const CliRun r = run(kDelhi);
+    ASSERT_EQ(r.status, 0);
+    for (const char *body : {"Lagna", "Sun", "Moon", "Rahu", "Ketu", "Pluto"})
+        EXPECT_TRUE(r.out.contains(QString::fromLatin1(body))) << body;
+    EXPECT_TRUE(r.out.contains("Cancer"));
+}
