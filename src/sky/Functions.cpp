@@ -23,6 +23,16 @@ double foldOneBased(double v, double n)
         v += n;
     return v;
 }
+
+// Subtracts n while above n and adds n while below 0: the result lies in [0, n], both ends kept.
+double foldClosed(double v, double n)
+{
+    while (v > n)
+        v -= n;
+    while (v < 0)
+        v += n;
+    return v;
+}
 } // namespace
 
 double Norm360(double v)
@@ -36,23 +46,9 @@ double Norm360(double v)
     return v;
 }
 
-double Norm30(double v)
-{
-    while (v > 30)
-        v -= 30;
-    while (v < 0)
-        v += 30;
-    return v;
-}
+double Norm30(double v) { return foldClosed(v, 30); }
 
-double Norm27(double v)
-{
-    while (v > 27)
-        v -= 27;
-    while (v < 0)
-        v += 27;
-    return v;
-}
+double Norm27(double v) { return foldClosed(v, 27); }
 
 int Norm12(int v)
 {
@@ -70,14 +66,7 @@ int Norm9(int v)
     return r;
 }
 
-double Norm7(double v)
-{
-    while (v > 7)
-        v -= 7;
-    while (v < 0)
-        v += 7;
-    return v;
-}
+double Norm7(double v) { return foldClosed(v, 7); }
 
 double Clock12(double h) { return foldOneBased(h, 12); }
 

@@ -209,22 +209,33 @@ long clsPlanets::CalcDayNumber(long d, long m, long y)
     return static_cast<long>(365.0 * y + Int(y / 4.0) + Int((m + 1) * 30.6) + 2 - a + Int(a / 4) + d);
 }
 
+double clsPlanets::personJulianDay(double laterHours) const
+{
+    const clsPerson &p = Person();
+    const double hourdec = p.Hour() + p.Minutes() / 60.0 + laterHours;
+    const int y = static_cast<int>(p.Year()), m = static_cast<int>(p.Month()), d = static_cast<int>(p.Day());
+    double tjd = SwissEphemeris::julday(y, m, d, hourdec);
+    SwissEphemeris::dateConversion(y, m, d, hourdec, tjd); // sets tjd even for hour 24 and beyond
+    return tjd;
+}
+
+void clsPlanets::placeBodies(double tjd, bool later)
+{
+    for (const BodySlot &b : kBodySlots)
+        setPlanetLongi(later ? b.later : b.now, SwissEphemeris::calc(tjd, b.body).xx[0]);
+    if (m_rahuKetuMode == 1 || m_rahuKetuMode == 2) {
+        const auto node = SwissEphemeris::calc(tjd, m_rahuKetuMode == 1 ? SwissEphemeris::MeanNode : SwissEphemeris::TrueNode);
+        setPlanetLongi(later ? 21 : 8, node.xx[0]);
+        setPlanetLongi(later ? 22 : 9, Norm360(node.xx[0] + 180));
+    }
+}
+
 void clsPlanets::calcSwePlanets()
 {
     const clsPerson &p = Person();
-    const double hourdec = p.Hour() + p.Minutes() / 60.0;
-    const int y = static_cast<int>(p.Year()), m = static_cast<int>(p.Month()), d = static_cast<int>(p.Day());
-    double tjd = SwissEphemeris::julday(y, m, d, hourdec);
-    SwissEphemeris::dateConversion(y, m, d, hourdec, tjd);
+    const double tjd = personJulianDay(0);
     const double tjd2 = tjd - SwissEphemeris::deltat(tjd);
-
-    for (const BodySlot &b : kBodySlots)
-        setPlanetLongi(b.now, SwissEphemeris::calc(tjd, b.body).xx[0]);
-    if (m_rahuKetuMode == 1 || m_rahuKetuMode == 2) {
-        const auto node = SwissEphemeris::calc(tjd, m_rahuKetuMode == 1 ? SwissEphemeris::MeanNode : SwissEphemeris::TrueNode);
-        setPlanetLongi(8, node.xx[0]);
-        setPlanetLongi(9, Norm360(node.xx[0] + 180));
-    }
+    placeBodies(tjd, false);
 
     double lon = p.LongDeg() + p.LongMT() / 60.0;
     if (isWest(p.TextEW()))
@@ -240,31 +251,11 @@ void clsPlanets::calcSwePlanets()
         m_kpHouse[static_cast<size_t>(i)] = Norm360(m_cusps[static_cast<size_t>(i)] - kp);
 }
 
-void clsPlanets::calcSweNextHour()
-{
-    const clsPerson &p = Person();
-    const double hourdec = p.Hour() + p.Minutes() / 60.0 + 1;
-    const int y = static_cast<int>(p.Year()), m = static_cast<int>(p.Month()), d = static_cast<int>(p.Day());
-    double tjd = SwissEphemeris::julday(y, m, d, hourdec);
-    SwissEphemeris::dateConversion(y, m, d, hourdec, tjd);
-
-    for (const BodySlot &b : kBodySlots)
-        setPlanetLongi(b.later, SwissEphemeris::calc(tjd, b.body).xx[0]);
-    if (m_rahuKetuMode == 1 || m_rahuKetuMode == 2) {
-        const auto node = SwissEphemeris::calc(tjd, m_rahuKetuMode == 1 ? SwissEphemeris::MeanNode : SwissEphemeris::TrueNode);
-        setPlanetLongi(21, node.xx[0]);
-        setPlanetLongi(22, Norm360(node.xx[0] + 180));
-    }
-}
+void clsPlanets::calcSweNextHour() { placeBodies(personJulianDay(1), true); }
 
 double clsPlanets::sweAyanamsa(int selector) const
 {
-    const clsPerson &p = Person();
-    const double hourdec = p.Hour() + p.Minutes() / 60.0;
-    const int y = static_cast<int>(p.Year()), m = static_cast<int>(p.Month()), d = static_cast<int>(p.Day());
-    double tjd = SwissEphemeris::julday(y, m, d, hourdec);
-    SwissEphemeris::dateConversion(y, m, d, hourdec, tjd);
-    return SwissEphemeris::ayanamsa(selector == 2 ? SwissEphemeris::Raman : SwissEphemeris::Krishnamurti, tjd);
+    return SwissEphemeris::ayanamsa(selector == 2 ? SwissEphemeris::Raman : SwissEphemeris::Krishnamurti, personJulianDay(0));
 }
 
 double clsPlanets::KPAyanVal() const { return sweAyanamsa(1); }

@@ -113,6 +113,8 @@ public:
 private:
     void clearWorkingFields();
     void calcPlanets();
+    double personJulianDay(double laterHours) const;
+    void placeBodies(double tjd, bool later);
     void calcSwePlanets();
     void calcSweNextHour();
     void calcVakyaPlanets();
