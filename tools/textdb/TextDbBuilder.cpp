@@ -231,12 +231,17 @@ bool TextDbBuilder::loadTable(const QString &connection, const QString &fileName
 
 bool TextDbBuilder::build(const QString &schemaFile, const QString &folder, const QString &outFile)
 {
+    return build(schemaFile, QStringList{folder}, outFile);
+}
+
+bool TextDbBuilder::build(const QString &schemaFile, const QStringList &folders, const QString &outFile)
+{
     m_error.clear();
     m_rows = 0;
 
-    const QDir dir(folder);
-    if (!dir.exists())
-        return fail(QStringLiteral("%1: no such folder").arg(folder));
+    for (const QString &folder : folders)
+        if (!QDir(folder).exists())
+            return fail(QStringLiteral("%1: no such folder").arg(folder));
     const QFileInfo out(outFile);
     if (!out.absoluteDir().mkpath(QStringLiteral(".")))
         return fail(QStringLiteral("%1: cannot make its folder").arg(outFile));
@@ -257,11 +262,14 @@ bool TextDbBuilder::build(const QString &schemaFile, const QString &folder, cons
             if (!ok)
                 fail(QStringLiteral("%1: %2").arg(temp, db.lastError().text()));
             ok = ok && runSchema(connection, schemaFile);
-            const QStringList files = dir.entryList({QStringLiteral("*.tsv")}, QDir::Files, QDir::Name);
-            for (const QString &name : files) {
-                if (!ok)
-                    break;
-                ok = loadTable(connection, dir.filePath(name), name.section(QLatin1Char('.'), 0, 0));
+            for (const QString &folder : folders) {
+                const QDir dir(folder);
+                const QStringList files = dir.entryList({QStringLiteral("*.tsv")}, QDir::Files, QDir::Name);
+                for (const QString &name : files) {
+                    if (!ok)
+                        break;
+                    ok = loadTable(connection, dir.filePath(name), name.section(QLatin1Char('.'), 0, 0));
+                }
             }
             if (ok && !db.commit())
                 ok = fail(QStringLiteral("%1: %2").arg(temp, db.lastError().text()));

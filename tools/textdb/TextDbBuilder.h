@@ -21,6 +21,8 @@ public:
     // Builds outFile from schemaFile and the tables of folder; false on any fault, with
     // errorText() naming the file and line. On failure no output file is left behind.
     bool build(const QString &schemaFile, const QString &folder, const QString &outFile);
+    // The same with the tables of several folders, read folder by folder in the order given.
+    bool build(const QString &schemaFile, const QStringList &folders, const QString &outFile);
     // What went wrong in the last build, as "<file>:<line>: <reason>"; empty after success.
     QString errorText() const { return m_error; }
     // Rows written by the last successful build.
