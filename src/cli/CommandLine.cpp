@@ -2,7 +2,10 @@
 #include "cli/CommandLine.h"
 
 #include "session/AppSettings.h"
+#include "session/AtlasLookup.h"
+#include "session/DataPaths.h"
 #include "session/EntryValidation.h"
+#include "session/ZoneHistory.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 
@@ -39,6 +42,7 @@ inline constexpr std::array<const char *, 12> kSignNames{
 const QString kUsage = QStringLiteral(
     "Usage: orbanta chart --date DD/MM/YYYY --time HH.MM --lat DDD:MM{N|S} --lon DDD:MM{E|W}\n"
     "                     --gmt {+|-}HH.MM [--name TEXT] [--sex M|F] [--tcorr {+|-}HH.MM]\n"
+    "   or: orbanta chart --date DD/MM/YYYY --time HH.MM --place NAME[,COUNTRY] [the same options]\n"
     "                     [--ayanamsa N] [--node mean|true] [--vakya] [--json]\n");
 
 // The birth as the entry screen's masked boxes would hold it.
@@ -50,15 +54,80 @@ struct Birth
     QString ns, ew;
     QString tcorr = QStringLiteral("-00.00");
     bool tcorrGiven = false;
+    int tcorrIndex = 0; // the kind the zone history found: 1 DST, 2 Summer Time, 3 War Time
+    QString place, country;
 };
+
+const QRegularExpression &offsetPattern()
+{
+    static const QRegularExpression re(QStringLiteral("^([+-]?)(\\d{1,2})[.:](\\d{2})$"));
+    return re;
+}
+
+QString offsetText(const QRegularExpressionMatch &m)
+{
+    return (m.captured(1) == QLatin1String("-") ? QStringLiteral("-") : QStringLiteral("+")) + Two(m.captured(2).toLong())
+        + QLatin1Char('.') + m.captured(3);
+}
+
+void typedPlaceFields(const QCommandLineParser &p, Birth &b);
+Birth checked(const Birth &b);
+
+// The place from the atlas: coordinates, and the zone's standard offset and any summer or war
+// time in force at the birth's own date and clock time.
+void placeFields(const QString &text, Birth &b)
+{
+    AtlasLookup atlas;
+    QString error;
+    if (!atlas.LoadDatabase(DataPaths::RecordsFile(), &error))
+        throw InputError{error};
+    const AtlasMatch match = atlas.Resolve(text);
+    if (match.outcome != AtlasMatch::Found) {
+        QStringList lines{match.outcome == AtlasMatch::Ambiguous
+                              ? QStringLiteral("\"%1\" names several places; add the country or choose by coordinates:").arg(text)
+                              : QStringLiteral("\"%1\" is not in the atlas.").arg(text)};
+        if (match.outcome == AtlasMatch::NotFound && !match.candidates.empty())
+            lines << QStringLiteral("Places that start alike:");
+        for (const AtlasPlace *c : match.candidates)
+            lines << QStringLiteral("  %1, %2  (%3:%4 %5  %6:%7 %8)")
+                         .arg(c->City, c->Country, c->Lat.left(3), c->Lat.right(2), c->NOSO, c->Longy.left(3), c->Longy.right(2), c->EaWe);
+        throw InputError{lines.join(QLatin1Char('\n'))};
+    }
+    const AtlasPlace &place = *match.place;
+    b.fields.latitude = place.Lat.left(3) + QLatin1Char(':') + place.Lat.right(2);
+    b.fields.longitude = place.Longy.left(3) + QLatin1Char(':') + place.Longy.right(2);
+    b.ns = place.NOSO;
+    b.ew = place.EaWe;
+    b.fields.gmt = place.GMTDIFF;
+    b.place = place.City;
+    b.country = place.Country;
+    const QDate date = ParseEntryDate(b.fields.date);
+    const QTime time(static_cast<int>(Val(b.fields.time.left(2))) % 24, static_cast<int>(Val(b.fields.time.right(2))) % 60);
+    if (!place.TimeZone.isEmpty() && date.isValid()) {
+        const ZoneMoment z = ZoneHistory::At(place.TimeZone, date, time);
+        if (z.valid) {
+            b.fields.gmt = z.standardText;
+            if (z.correctionIndex > 0) {
+                b.tcorr = z.correctionText;
+                b.tcorrIndex = z.correctionIndex;
+            }
+        }
+    }
+}
 
 // Brings "d/m/yyyy", "h.mm", "dd:mmN" forms to the masks, or reports the field's own message.
 Birth readBirth(const QCommandLineParser &p)
 {
+    const bool byPlace = p.isSet(QStringLiteral("place"));
+    if (byPlace && (p.isSet(QStringLiteral("lat")) || p.isSet(QStringLiteral("lon")) || p.isSet(QStringLiteral("gmt"))))
+        throw InputError{QStringLiteral("--place stands in place of --lat, --lon and --gmt: give one or the other.")};
+    QStringList required{QStringLiteral("date"), QStringLiteral("time")};
+    if (!byPlace)
+        required << QStringLiteral("lat") << QStringLiteral("lon") << QStringLiteral("gmt");
     QStringList missing;
-    for (const char *opt : {"date", "time", "lat", "lon", "gmt"})
-        if (!p.isSet(QString::fromLatin1(opt)))
-            missing << QStringLiteral("--") + QString::fromLatin1(opt);
+    for (const QString &opt : required)
+        if (!p.isSet(opt))
+            missing << QStringLiteral("--") + opt;
     if (!missing.isEmpty())
         throw InputError{QStringLiteral("Missing ") + missing.join(QStringLiteral(", ")) + QStringLiteral(".\n") + kUsage};
 
@@ -83,6 +152,24 @@ Birth readBirth(const QCommandLineParser &p)
         throw entryError(6, QStringLiteral("Invalid Time"));
     b.fields.time = Two(tm.captured(1).toLong()) + QLatin1Char('.') + tm.captured(2);
 
+    if (byPlace)
+        placeFields(p.value(QStringLiteral("place")), b);
+    else
+        typedPlaceFields(p, b);
+
+    if (p.isSet(QStringLiteral("tcorr"))) {
+        const auto tc = offsetPattern().match(p.value(QStringLiteral("tcorr")).trimmed());
+        if (!tc.hasMatch())
+            throw InputError{QStringLiteral("The time correction must be written as {+|-}HH.MM, for example -01.00.")};
+        b.tcorr = offsetText(tc);
+        b.tcorrGiven = true;
+    }
+    return checked(b);
+}
+
+// The place from the typed latitude, longitude and zone offset.
+void typedPlaceFields(const QCommandLineParser &p, Birth &b)
+{
     static const QRegularExpression latRe(QStringLiteral("^(\\d{1,3}):(\\d{2})\\s*([NSns])$"));
     const auto la = latRe.match(p.value(QStringLiteral("lat")).trimmed());
     if (!la.hasMatch())
@@ -97,23 +184,16 @@ Birth readBirth(const QCommandLineParser &p)
     b.fields.longitude = QStringLiteral("%1:%2").arg(lo.captured(1).toLong(), 3, 10, QLatin1Char('0')).arg(lo.captured(2));
     b.ew = lo.captured(3).toUpper();
 
-    static const QRegularExpression offsetRe(QStringLiteral("^([+-]?)(\\d{1,2})[.:](\\d{2})$"));
-    const auto gm = offsetRe.match(p.value(QStringLiteral("gmt")).trimmed());
+    const auto gm = offsetPattern().match(p.value(QStringLiteral("gmt")).trimmed());
     if (!gm.hasMatch())
         throw entryError(9, QStringLiteral("Orbanta"));
-    b.fields.gmt = (gm.captured(1) == QLatin1String("-") ? QStringLiteral("-") : QStringLiteral("+")) + Two(gm.captured(2).toLong())
-        + QLatin1Char('.') + gm.captured(3);
+    b.fields.gmt = offsetText(gm);
 
-    if (p.isSet(QStringLiteral("tcorr"))) {
-        const auto tc = offsetRe.match(p.value(QStringLiteral("tcorr")).trimmed());
-        if (!tc.hasMatch())
-            throw InputError{QStringLiteral("The time correction must be written as {+|-}HH.MM, for example -01.00.")};
-        b.tcorr = (tc.captured(1) == QLatin1String("-") ? QStringLiteral("-") : QStringLiteral("+")) + Two(tc.captured(2).toLong())
-            + QLatin1Char('.') + tc.captured(3);
-        b.tcorrGiven = true;
-    }
+}
 
-    // The same checks as the entry screen: Generate's, then those a field makes on leaving it.
+// The same checks as the entry screen: Generate's, then those a field makes on leaving it.
+Birth checked(const Birth &b)
+{
     const std::vector<EntryMessage> messages = ValidateEntry(b.fields);
     if (!messages.empty()) {
         QStringList lines;
@@ -128,6 +208,7 @@ Birth readBirth(const QCommandLineParser &p)
             throw InputError{messageLine(*check)};
     return b;
 }
+
 
 // Copies the fields into the chart's person as Generate does.
 void fillPerson(const Birth &b, clsPerson &person)
@@ -149,7 +230,9 @@ void fillPerson(const Birth &b, clsPerson &person)
     person.setLongMT(Val(f.longitude.right(2)));
     person.setTextEW(b.ew);
     person.setTimeCorr(b.tcorr);
-    person.setTimeCorrInde(b.tcorrGiven ? 4 : 0);
+    person.setTimeCorrInde(b.tcorrGiven ? 4 : b.tcorrIndex);
+    person.setPLOB(b.place);
+    person.setCountry(b.country);
 }
 
 void applyOverrides(const QCommandLineParser &p)
@@ -242,6 +325,7 @@ int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
         {QStringLiteral("lat"), QStringLiteral("Latitude."), QStringLiteral("DDD:MM{N|S}")},
         {QStringLiteral("lon"), QStringLiteral("Longitude."), QStringLiteral("DDD:MM{E|W}")},
         {QStringLiteral("gmt"), QStringLiteral("Zone offset from GMT."), QStringLiteral("{+|-}HH.MM")},
+        {QStringLiteral("place"), QStringLiteral("A place of the atlas, instead of --lat, --lon and --gmt."), QStringLiteral("NAME[,COUNTRY]")},
         {QStringLiteral("name"), QStringLiteral("Name."), QStringLiteral("TEXT")},
         {QStringLiteral("sex"), QStringLiteral("M or F."), QStringLiteral("M|F")},
         {QStringLiteral("tcorr"), QStringLiteral("Time correction, e.g. -01.00."), QStringLiteral("{+|-}HH.MM")},

@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/AtlasLookup.h"
 
+#include <QAtomicInt>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+
 #include <QDir>
 #include <QFile>
 #include <QStringList>
@@ -84,7 +90,54 @@ bool AtlasLookup::LoadFiles(const QString &cityFile, const QString &countryFile,
     const QStringList countryColumns{QStringLiteral("Name"), QStringLiteral("GMTDIF"), QStringLiteral("TimeZone")};
     if (!readTable(cityFile, cityColumns, cityRows, error) || !readTable(countryFile, countryColumns, countryRows, error))
         return false;
+    setRows(cityRows, countryRows);
+    return true;
+}
 
+bool AtlasLookup::LoadDatabase(const QString &datFile, QString *error)
+{
+    static QAtomicInt connections;
+    const QString name = QStringLiteral("orbanta_atlas_%1").arg(connections.fetchAndAddRelaxed(1));
+    std::vector<QStringList> cityRows;
+    std::vector<QStringList> countryRows;
+    QString problem;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+        db.setDatabaseName(datFile);
+        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        const auto readRows = [&](const QString &sql, int columns, std::vector<QStringList> &rows) {
+            QSqlQuery q(db);
+            if (!q.exec(sql)) {
+                problem = q.lastError().text();
+                return false;
+            }
+            while (q.next()) {
+                QStringList r;
+                for (int i = 0; i < columns; ++i)
+                    r << q.value(i).toString();
+                rows.push_back(r);
+            }
+            return true;
+        };
+        if (!QFileInfo::exists(datFile) || !db.open())
+            problem = QStringLiteral("cannot be opened");
+        else if (readRows(QStringLiteral("SELECT City, Lat, Longy, NOSO, EaWe, Country, GMTDIFF, TimeZone FROM City ORDER BY rowid"), 8,
+                          cityRows))
+            readRows(QStringLiteral("SELECT Name, GMTDIF, TimeZone FROM Country ORDER BY rowid"), 3, countryRows);
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(name);
+    if (!problem.isEmpty()) {
+        if (error)
+            *error = QStringLiteral("The atlas in %1 could not be read: %2").arg(datFile, problem);
+        return false;
+    }
+    setRows(cityRows, countryRows);
+    return true;
+}
+
+void AtlasLookup::setRows(const std::vector<QStringList> &cityRows, const std::vector<QStringList> &countryRows)
+{
     m_places.clear();
     m_places.reserve(cityRows.size());
     for (const QStringList &r : cityRows)
@@ -104,7 +157,6 @@ bool AtlasLookup::LoadFiles(const QString &cityFile, const QString &countryFile,
     for (size_t i = 0; i < m_countries.size(); ++i)
         m_countryIndex.push_back({Fold(m_countries[i].Name), QString(), int(i)});
     std::sort(m_countryIndex.begin(), m_countryIndex.end(), keyLess<Key>);
-    return true;
 }
 
 std::vector<const AtlasPlace *> AtlasLookup::FindPlaces(const QString &namePrefix, const QString &countryPrefix, int limit) const

@@ -5,6 +5,7 @@
 // "NAME[,COUNTRY]" place. Names compare without case and without accents.
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -43,6 +44,8 @@ class AtlasLookup
 public:
     // Reads City.tsv and Country.tsv from a folder; false with a message when unreadable.
     bool Load(const QString &folder, QString *error = nullptr);
+    // Reads tables City and Country of a records database file (RECOS.Dat).
+    bool LoadDatabase(const QString &datFile, QString *error = nullptr);
     // Reads the two files by path.
     bool LoadFiles(const QString &cityFile, const QString &countryFile, QString *error = nullptr);
 
@@ -73,6 +76,7 @@ private:
         int row;
     };
     std::vector<const AtlasPlace *> exactNames(const QString &foldedName) const;
+    void setRows(const std::vector<QStringList> &cityRows, const std::vector<QStringList> &countryRows);
 
     std::vector<AtlasPlace> m_places;
     std::vector<AtlasCountry> m_countries;

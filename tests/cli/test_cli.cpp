@@ -146,3 +146,46 @@ TEST(CommandLine, ReadableTableNamesEveryBody)
         EXPECT_TRUE(r.out.contains(QString::fromLatin1(body))) << body;
     EXPECT_TRUE(r.out.contains("Cancer"));
 }
+
+namespace {
+// The person's clock after the cast, for a birth at 10.00 local clock time at a place.
+int hourAfterCast(const QString &date, const QString &place, CliRun *whole = nullptr)
+{
+    qputenv("ORBANTA_STUFF", ORBANTA_BINARY_DIR "/STUFF");
+    const CliRun r = run({"chart", "--date", date, "--time", "10.00", "--place", place, "--json"});
+    if (whole)
+        *whole = r;
+    return r.status == 0 ? QJsonDocument::fromJson(r.out.toUtf8()).object()["person"].toObject()["hour"].toInt() : -1;
+}
+} // namespace
+
+TEST(CommandLine, PlacesTakeTheZoneHistoryOfTheBirthsOwnMoment)
+{
+    ScopedSettingsStore store;
+    EXPECT_EQ(hourAfterCast("10/06/1944", "Delhi,India"), 9);          // war time, one hour
+    EXPECT_EQ(hourAfterCast("10/06/1950", "Delhi,India"), 10);         // none
+    EXPECT_EQ(hourAfterCast("04/07/1975", "New York City"), 9);        // daylight saving
+    EXPECT_EQ(hourAfterCast("15/01/1975", "New York City"), 10);
+    EXPECT_EQ(hourAfterCast("15/01/1969", "London,United Kingdom"), 9); // British Standard Time all year
+    EXPECT_EQ(hourAfterCast("15/01/1990", "London,United Kingdom"), 10);
+    CliRun r;
+    hourAfterCast("10/06/1944", "Delhi,India", &r);
+    const QJsonObject o = QJsonDocument::fromJson(r.out.toUtf8()).object();
+    EXPECT_NEAR(o["planets"].toArray()[1].toObject()["longitude"].toDouble(), 55.1, 1.0); // the Sun in Taurus
+}
+
+TEST(CommandLine, UnknownOrAmbiguousPlacesListTheCandidates)
+{
+    ScopedSettingsStore store;
+    CliRun r;
+    EXPECT_EQ(hourAfterCast("01/01/1980", "London", &r), -1);
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.err.contains("London, Canada"));
+    EXPECT_TRUE(r.err.contains("London, United Kingdom"));
+    hourAfterCast("01/01/1980", "Xyzzyville", &r);
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.err.contains("is not in the atlas"));
+    EXPECT_TRUE(r.out.isEmpty());
+    const CliRun both = run({"chart", "--date", "01/01/1980", "--time", "10.00", "--place", "Delhi", "--gmt", "+05.30"});
+    EXPECT_EQ(both.status, 2);
+}
