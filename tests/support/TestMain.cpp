@@ -8,6 +8,8 @@
 int main(int argc, char **argv)
 {
     QLocale::setDefault(QLocale::c());
+    // The data folder the build made, as the program finds it beside its executable.
+    qputenv("ORBANTA_STUFF", ORBANTA_BINARY_DIR "/STUFF");
     QStandardPaths::setTestModeEnabled(true);
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Orbanta"));

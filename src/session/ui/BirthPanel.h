@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+// One person's birth fields on the entry screen: name, sex, date, time, place, zone and the
+// time correction. The entry screen holds three: the single person, the male and the female.
+
+#include "session/EntryValidation.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QToolButton>
+
+class BirthPanel : public QGroupBox
+{
+    Q_OBJECT
+public:
+    // prefix names the controls: "" for the single person (cmbPerson, txtBDate ...),
+    // "Boy" or "Gal" for the partners (cmbBoyName, txtBoyDate ...).
+    BirthPanel(const QString &prefix, bool withSex, QWidget *parent = nullptr);
+
+    QComboBox *cmbName;
+    QRadioButton *optMale = nullptr, *optFemale = nullptr;
+    QLineEdit *txtDate, *txtTime;
+    QRadioButton *optAM, *optPM;
+    QComboBox *cmbCountry, *cmbPlace;
+    QLineEdit *txtGMT, *txtLati, *txtNS, *txtLongi, *txtEW;
+    QComboBox *cmbTCorr;
+    QLineEdit *txtTCorr;
+    QToolButton *cmdNowCast = nullptr, *cmdAddCity = nullptr;
+
+    // The four texts that Generate checks.
+    BirthFields Fields() const;
+    // The zone of the place last picked from the atlas, empty when typed by hand.
+    QString placeZone;
+
+Q_SIGNALS:
+    // A field wants its hint shown (resource number).
+    void hint(int number);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+// The entry screen: the three modes, the birth fields, the person list, and Generate.
+
+#include "session/EntryValidation.h"
+#include "session/PersonStore.h"
+#include "session/clsPerson.h"
+#include "session/ui/BirthPanel.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QToolBar>
+#include <QWidget>
+
+#include <functional>
+
+class frmLogin : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit frmLogin(QWidget *parent = nullptr);
+
+    // Where the screen's message boxes go; tests set a recorder so nothing blocks.
+    using MessageHandler = std::function<void(const EntryMessage &)>;
+    static void setMessageHandler(MessageHandler handler);
+
+    void cmdHoroscope_Click();
+    void cmdMatch_Click();
+    void cmdVarshaphala_Click();
+    // Validates, makes the session's charts and casts them; false when a field was refused.
+    bool cmdGenerate_Click();
+    void cmdNowCast_Click();
+    // Generate's checks with their messages, on the fields of the mode.
+    bool ValidateEntry();
+    void FillPersonLists();
+    void SavePerson();
+    void DeletePerson();
+    // The exchange files, with their dialogs; the *To/*From forms take the path directly.
+    void ExportPersonFile();
+    void ExportPersonDB();
+    void ImportPersons(bool whole);
+    bool ExportPersonFileTo(const QString &file);
+    bool ExportPersonDBTo(const QString &file);
+    bool ImportPersonsFrom(const QString &file);
+    // Copies a stored person into a panel.
+    void FillFromRecord(BirthPanel *panel, const PersonRow &row);
+
+    BirthPanel *single;
+    BirthPanel *boy;
+    BirthPanel *gal;
+    QGroupBox *frmSingleGuy;
+    QWidget *frmMatch;
+    QComboBox *cmbLangu;
+    QPushButton *cmdHoroscope, *cmdMatch, *cmdVarshaphala, *cmdGenerate, *cmdOptions;
+    QLabel *lblHints;
+    QToolBar *tbTools;
+
+Q_SIGNALS:
+    // Generate has cast the session's charts: the main window takes over.
+    void generated();
+    void optionsRequested();
+
+private:
+    void postHint(int number);
+    void postText(const QString &text);
+    void showMessage(const EntryMessage &m);
+    void wirePanel(BirthPanel *p);
+    void personTyped(BirthPanel *p, const QString &text, bool fill);
+    void countryTyped(BirthPanel *p, const QString &text, bool picked);
+    void placeTyped(BirthPanel *p, const QString &text, bool picked);
+    void applyZoneHistory(BirthPanel *p);
+    void fillPlaces(BirthPanel *p, const QString &country);
+    bool checkField(BirthPanel *p, QWidget *field);
+    PersonRow rowFromPanel(BirthPanel *p, const QString &name) const;
+    void fillPerson(BirthPanel *p, clsPerson &person, int sex) const;
+    void saveStartMode(const QString &mode);
+    PersonStore store() const;
+};

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// main() of the widget tests: a QApplication on whatever platform QT_QPA_PLATFORM names
+// (offscreen under CTest).
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLocale>
+#include <QStandardPaths>
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale::c());
+    // The data folder the build made, as the program finds it beside its executable.
+    qputenv("ORBANTA_STUFF", ORBANTA_BINARY_DIR "/STUFF");
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Orbanta"));
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
