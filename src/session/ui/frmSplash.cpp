@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/ui/frmSplash.h"
 
+#include "session/AppSettings.h"
 #include "session/Startup.h"
+#include "session/ui/frmMessage.h"
+#include "session/ui/frmWizard.h"
 #include "session/ui/mdiMother.h"
 
 #include <QApplication>
@@ -71,6 +74,11 @@ mdiMother *frmSplash::DoLoad()
                                              "supports only the '.' symbol for calculating decimal numbers."));
         return nullptr;
     }
+    // The setup wizard runs once, before anything else; cancelling it also counts as done.
+    if (!AppSettings::value(QStringLiteral("Settings"), QStringLiteral("DoneSetup"), false).toBool()) {
+        frmWizard wizard;
+        wizard.exec();
+    }
     stage(QStringLiteral("Checking Files..."));
     const QString missing = Startup::FirstMissingFile();
     if (!missing.isEmpty()) {
@@ -84,6 +92,8 @@ mdiMother *frmSplash::DoLoad()
         return nullptr;
     }
     stage(QStringLiteral("Checking Display..."));
+    if (const QScreen *screen = QApplication::primaryScreen())
+        frmMessage::CheckDisplay(screen->geometry().width(), this);
     stage(QStringLiteral("Checking Fonts..."));
     QStringList missingFonts;
     const QStringList families = QFontDatabase::families();

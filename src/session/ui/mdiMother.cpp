@@ -3,7 +3,10 @@
 
 #include "session/AppSettings.h"
 #include "session/Session.h"
+#include "session/ui/frmCalcOptions.h"
+#include "session/ui/frmEditLongLat.h"
 #include "session/ui/frmLogin.h"
+#include "session/ui/frmWizard.h"
 #include "sky/Functions.h"
 
 #include <QCloseEvent>
@@ -70,6 +73,11 @@ mdiMother::mdiMother(QWidget *parent) : QMainWindow(parent)
     statusBar()->showMessage(QStringLiteral("Ready"));
     connect(m_login, &frmLogin::generated, this, &mdiMother::StartSession);
     connect(m_login, &frmLogin::optionsRequested, this, &mdiMother::wizardRequested);
+
+    // The settings dialogs write the store at once; the next cast reads it.
+    connect(this, &mdiMother::settingsRequested, this, [this](int page) { frmEditLongLat(page, this).exec(); });
+    connect(this, &mdiMother::wizardRequested, this, [this] { frmWizard(this).exec(); });
+    connect(this, &mdiMother::regionalSettingsRequested, this, [this] { frmCalcOptions(this).exec(); });
 }
 
 void mdiMother::buildMenus()
