@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 int main(int argc, char **argv)
 {
@@ -14,6 +15,10 @@ int main(int argc, char **argv)
     QLocale::setDefault(QLocale::c());
     // The data folder the build made, as the program finds it beside its executable.
     qputenv("ORBANTA_STUFF", ORBANTA_BINARY_DIR "/STUFF");
+    // Each test program gets a home of its own, so that programs running side by side never
+    // share a settings or data file.
+    QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
     QStandardPaths::setTestModeEnabled(true);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orbanta"));
