@@ -4,10 +4,18 @@
 
 #include "sky/Functions.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 constexpr double kDegToRad = 0.017453292519944444;
+// The ascendant formula and its choice of half circle hold up to this latitude, north and south.
+// Nearer the poles the choice fails for part of the day (from about 65.8 degrees south), and
+// beyond the polar circle the rising point of the ecliptic jumps and runs backward, so that the
+// Sun's point may not rise at all. A place beyond the bound gets the Lagna and bhavas of the bound
+// on its own meridian: the Lagna keeps moving forward and every point of the ecliptic still rises
+// and sets each day.
+constexpr double kLagnaLatitudeBound = 65.0;
 }
 
 void clsPlanets::calcBhavas()
@@ -60,6 +68,7 @@ void clsPlanets::calcBhavas()
 
 double clsPlanets::calcAscendant(double st, double lat) const
 {
+    lat = std::clamp(lat, -kLagnaLatitudeBound, kLagnaLatitudeBound);
     double a = st * 15 + 90;
     if (a >= 360)
         a -= 360;
