@@ -97,6 +97,7 @@ void clsPlanets::Calculate()
 {
     ++g_calculateCount;
     calcPlanets();
+    FillVargas();
 }
 
 void clsPlanets::clearWorkingFields()
@@ -160,6 +161,7 @@ void clsPlanets::calcPlanets()
 
     applyAyanamsa();
     calcBhavas();
+    CalcPanchang();
 
     if (vakya)
         setPlanetLongi(0, Norm360(vakyaLagna + x - PlanetLongi(13)));

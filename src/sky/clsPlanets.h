@@ -8,8 +8,10 @@
 #include "sky/clsVakya.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <QSqlDatabase>
 #include <QString>
+#include <QVariant>
 
 #include <array>
 #include <memory>
@@ -110,6 +112,173 @@ public:
     // LatDeg + Int(LatMT / 100 * 60) of the person.
     double Latitude() const;
 
+    // ---- Text look-ups, signs, nakshatras and the panchang (clsPlanets_signs.cpp) ----
+    // Text look-ups on the chart's text database; see text/TextDB.h for Empty and Null.
+    QSqlDatabase GetTxtDB() const { return m_textDb; }
+    QVariant GetHeadValue(int type, const QVariant &head, const QString &category = QString()) const;
+    QVariant GetTextBetween(const QString &table, const QVariant &head, const QString &category) const;
+    QVariant GetGenText(const QVariant &head) const;
+    QVariant GetConjText(const QVariant &head) const;
+    // Name of the ayanamsa choice in force (head "AyanName", category the choice).
+    QString AyanamshName() const;
+    // Two-digit day, month name and year: "05 August 1980"; the second always in English.
+    QString ConvertDateToText(const QDate &date) const;
+    QString ConvertDateToTextEng(const QDate &date) const;
+    // Month n (1..12) in the language and in English.
+    QString GetMonthNameByNum(int n) const;
+    QString GetMonthNameByNumEng(int n) const;
+    // Sign name of longitude x, sign Fix(x / 30) + 1.
+    QString ConvertToDegNoVal(double x) const;
+    // Degrees and minutes within the sign, joined by the language's ":".
+    QString ConvertValNoDegNoSec(double x) const;
+    // The language's word for direct or retrograde motion of position n.
+    QString Direction(int n) const;
+
+    // Sign of planet n: Int(L / 30) + 1, computed each time.
+    int PlanetRashiNum(int n) const;
+    // The same, kept after the first call until the next Calculate (Sign with Fix, PlanetSign with Int).
+    int Sign(int n) const;
+    int PlanetSign(int n) const;
+    // The Moon's sign and its name.
+    int RashiNum() const { return PlanetRashiNum(7); }
+    QString RashiName() const;
+    QString PlanetRashiName(int n) const;
+    // "Ari" .. "Pis" of planet n's sign.
+    QString PlanetRashiNameEngSmall(int n) const;
+    // Sign name of x: a fractional x is a longitude, a whole x a sign number.
+    QString ConvertRashi(double x) const;
+    // The same in English.
+    QString ConvertRashiEng(double x) const;
+    // Sign number of a longitude (fractional x) or of a sign number (whole x).
+    static int ConvertRashiNum(double x);
+    int GetSign(int n) const { return PlanetRashiNum(n); }
+    // Lord of sign s (0 outside 1..12).
+    static int GetRashiLordNum(int s);
+    static int SignLord(int s) { return GetRashiLordNum(s); }
+    static int FindRashiLordNo(int s) { return GetRashiLordNum(s); }
+    // Lord of a sign number or of the sign of a longitude.
+    static int PlanetRashiLordNum(double x) { return GetRashiLordNum(ConvertRashiNum(x)); }
+    int PlanetSignLord(int n) const { return GetRashiLordNum(PlanetRashiNum(n)); }
+    // 1 movable, 2 fixed, 3 dual; 0 outside 1..12.
+    static int RashiClass(int s);
+    static int HouseClass(int h) { return RashiClass(h); }
+    // 1 fire, 2 earth, 3 air, 4 water; 0 outside 1..12.
+    static int GetRashiElement(int s);
+    // 1, 4, 2 or 3 by the element of planet n's sign.
+    int FindPlanetDirection(int n) const;
+    // How many of the planets 1..7 stand in sign s.
+    int CountPlanetInSign(int s) const;
+    // How many signs hold a planet: planets 1..9 if k is 1, planets 1..7 otherwise.
+    int SignOccupiedNum(int k) const;
+    QString SunSignEngByNumber(int s) const;
+    // The Western sun sign of the person's date, in the language and as the English word.
+    QString FindSunSign() const;
+    QString FindSunSignEng() const;
+
+    // Planet names: abbreviation (kept; checks the language file), English abbreviation,
+    // full name, full English name, two-letter form.
+    QString PlanetName(int n) const;
+    static QString PlanetNameEng(int n);
+    QString PlanetNameFull(int n) const;
+    static QString PlanetNameFullEng(int n);
+    QString PlanetNameSmall(int n) const;
+    // Lord of the Moon's sign in the order Sun, Moon, Mars, Mercury, Jupiter, Venus, Saturn (1..7).
+    int GrahaMaitriNo() const;
+    // Days of the annual dasha of place n of the nine-cycle; its name (kept).
+    static int MuddaCycleNo(int n);
+    QString MuddaCycleName(int n) const;
+    // Planet n in the traditional order Sun, Moon, Mars, Mercury, Jupiter, Venus, Saturn.
+    static int PlanetSerialNumber(int n);
+
+    // Nakshatra 1..27 of the Moon, of a longitude, of planet n (0 the Lagna).
+    int Nakshatra() const { return NakshatraNum(PlanetLongi(7)); }
+    static int NakshatraNum(double l);
+    int NakOf(int n) const { return NakshatraNum(PlanetLongi(n)); }
+    QString GetNakshatraName(int k) const;
+    QString NakNamePlanet(int n) const { return GetNakshatraName(NakOf(n)); }
+    // Vimshottari lord (planet number) of nakshatra k; 0 outside 1..27.
+    static int NakLordNum(int k);
+    // Name of the lord of k, k reduced by its digits to 1..9.
+    QString NakLordName(int k) const;
+    QString GetNakLordName(int k) const { return NakLordName(k); }
+    // True if planet n stands in one of the three nakshatras of planet p (1..7).
+    bool PlanetINNakof(int p, int n) const;
+    // The Moon's pada from the panchang.
+    int NakPada() const { return m_pada; }
+    int Pada() const { return m_pada; }
+    static int NakPadaNum(double l);
+    int NakPadaPlanet(int n) const;
+    // 28 (Abhijit) for the Moon within 276.4..280.54, else the Moon's nakshatra.
+    int Nak28GetNakshatra() const;
+    // Tara of nakshatra b counted from a, 1..9.
+    static int GetTaraNum(int a, int b);
+    QString FindFirstLetters(int k) const;
+
+    // Tithi 1..30, M - S in 0..360, names and classes.
+    int Tithi() const { return m_tithi; }
+    double TithiValue() const;
+    QString TithiName(double t) const;
+    QString GetTithiName(double t) const { return TithiName(t); }
+    static int TithiShuklaKrishna(double t);
+    static int GetTithiType(int t);
+    // Yoga 1..27 and its name.
+    int YogaNumber() const { return m_yoga; }
+    QString YogaName() const;
+    QString ConvertYoga(double x) const;
+    QString FindYoga() const { return ConvertYoga(m_yoga); }
+    // Karana 1..11 and its name.
+    int KaranNumber() const;
+    QString KaranName() const;
+
+    // Weekday lords, day names and horas.
+    int WeekDayLord() const;
+    static int WeekDayLordOfDay(int d);
+    static int WeekDayLordFromDay(int d) { return WeekDayLordOfDay(d); }
+    QString GetDayName(int n) const;
+    QString ConvertDayEng(int n) const;
+    static int GetDayHora(int d);
+    double GetHoraStart(int h) const;
+    static int GetHoraType(int h, int d);
+    QString GetHoraName(int t) const;
+
+    // Chogadiya 1..8 by day, 9..16 by night: span, start (hh.mm arithmetic), kind and name.
+    double GetChogadiyaSpan(int n) const;
+    double GetChogadiyaStart(int n) const;
+    static int GetChogadiyaType(int n, int d);
+    QString GetChowGadiyaName(int t) const;
+    // Rahu Kaal and the bad muhurthas of the birth day.
+    double GetRahuKaalSpanToday() const;
+    double GetRahuKaalStartToday() const;
+    double GetMuhurthaLength() const;
+    double GetEvilMuhurthaStart(int k) const;
+
+    // Vikrami month of a sun longitude at a moment, and its name.
+    static int VikramiMonth(double l, const QDateTime &date);
+    QString GetVikramiMonth(int n) const;
+
+    // Marriage and birth attributes of the Moon.
+    // Gana of nakshatra k (0 the Moon's): 1 Rakshasa, 2 Manushya, 3 Deva.
+    int Gana(int k = 0) const;
+    QString AssignGana(int x) const;
+    int NadiNo() const;
+    QString AssignNadi(int x) const;
+    QString NadiPada() const;
+    int VarnaNo() const;
+    QString Varna() const;
+    int VasyaNo() const;
+    QString Vasya() const;
+    QString YoniName() const;
+    int YoniNo() const;
+    QString Paya() const;
+    QString Rajju() const;
+    QString RajjuType() const;
+    QString Tatwa(int n = 7) const;
+    QString Vihag(int n = 7) const;
+    // Fills tithi, nakshatra, pada, yoga and sign of the Moon from positions 1 and 7, and forgets
+    // the kept signs; a step of Calculate.
+    void CalcPanchang();
+    // ---- end of the sign, nakshatra and panchang members ----
+
 private:
     void clearWorkingFields();
     void calcPlanets();
@@ -144,4 +313,170 @@ private:
     std::unique_ptr<clsPerson> m_person;
     std::unique_ptr<clsVakya> m_vakya;
     QSqlDatabase m_textDb, m_recDb;
+
+    // ---- Sign, nakshatra and panchang state (clsPlanets_signs.cpp) ----
+    QString memoText(const QString &category, const QVariant &key) const;
+    int varnaMode() const;
+    mutable std::array<double, 14> m_signMemo{};     // sign of positions 0..13; 0 = not yet
+    mutable QHash<QString, QString> m_textMemo;      // kept names by category and key
+    mutable QString m_textMemoConnection;            // the database the kept names came from
+    int m_tithi = 0, m_nakField = 0, m_pada = 0, m_yoga = 0, m_signField = 0;
+    // ---- end of the sign, nakshatra and panchang state ----
+
+    // ---- Sunrise, sunset and the lengths of day and night (clsPlanets_sun.cpp) ----
+public:
+    // Clock (hh.mm) at which the Lagna reaches the Sun's longitude: the sunrise near the birth.
+    double SunRiseTime() const;
+    // Clock (hh.mm) at which the Lagna stands opposite the Sun: the first sunset from the birth on.
+    double SunSetTime() const;
+    // True when the birth clock lies from sunrise to sunset.
+    bool DayBirth() const;
+    // Hours from sunrise to sunset.
+    double DayDuration() const;
+    // Hours of the night before the birth (birth before noon) or after it (from noon on).
+    double NightDuration() const;
+    // Forgets the three kept sun values.
+    void ClearSunMemos();
+
+private:
+    void refreshSunMemos() const;
+    double iterateSunSet() const;
+    mutable double m_sunRise = 0;       // hh.mm; 0 = not yet
+    mutable double m_sunSet = 0;        // hh.mm; 0 = not yet
+    mutable double m_nightDuration = 0; // hours; 0 = not yet
+    mutable QString m_sunMemoKey;       // the person's moment and place the kept values belong to
+    // ---- end of the sun members ----
+
+    // ---- Dignity, relationship and aspect predicates (clsPlanets_dignity.cpp) ----
+    // Planets outside a table's rows answer false (0 for the numeric ones).
+public:
+    // Planet p (1..9) in its exaltation or debilitation sign, by PlanetRashiNum.
+    bool Exalted(int p) const;
+    bool Debilitated(int p) const;
+    // The same for planet p imagined in sign s.
+    static bool CheckIfExalted(int p, int s);
+    static bool CheckIfDebi(int p, int s);
+    // Planet p (1..7) within its peak degrees of exaltation or debilitation, bounds included.
+    bool CheckHighestExaltDeg(int p) const;
+    bool CheckHighestDebiDeg(int p) const;
+    // Sign s is an own sign of p (1..12; Mercury owns 3 and 6).
+    static bool CheckOwnHouse(int p, int s);
+    // Planet p (1..9) stands in an own sign (Mercury: 3 only).
+    bool InOwnHouse(int p) const;
+    // Planet p (1..7) within its moolatrikona degrees.
+    bool IsMoolTrikona(int p) const;
+    // The dignity word of p's longitude (head "EXALTCLASS"), "" in none of the ranges.
+    QString ExaltClass(int p) const;
+    // The same as "Exalt", "Mool", "Own" or "Debi".
+    QString ExaltClassEng(int p) const;
+    // Natural relation of p2 to p1: 1 friend, 2 neutral, 3 enemy; 0 for a pair the table lacks.
+    static int GrahaRelation(int p1, int p2);
+    // q is an enemy of p in the table of company and aspect.
+    static bool IsPlanetEnemy(int p, int q);
+    // Planet p stands in a sign of its friend, enemy or neutral table.
+    bool InFriendHouse(int p) const;
+    bool InEnemyHouse(int p) const;
+    bool InSamaHouse(int p) const;
+    // Compound friendship with the lord of p's sign: great friend and great enemy.
+    bool InAdhiMitraHouse(int p) const;
+    bool InAdhiSatruHouse(int p) const;
+    // Natural benefics 2, 3, 5, 7; natural malefics 1, 4, 6, 8, 9.
+    static bool PlanetBenefic(int p);
+    static bool PlanetMalefic(int p);
+    // Aspect code of a separation: "CNJ", "OPP", "SQU", "TRN", "SXT", "SQQ", "SSQ", "QNC", "SSX",
+    // "QNT", "BQT", or "".
+    static QString FindRelation(double x);
+    // p (2..7) within its combustion orb of the Sun, unwrapped; Empty for other planets.
+    std::optional<bool> Combust(int p) const;
+    // The same test with p at b and the Sun at a.
+    static std::optional<bool> CheckIfCombust(int p, double a, double b);
+    // p (not the Sun) within 15 degrees of the Sun either way round.
+    bool WithinOrbOfSun(int p) const;
+    // The word for combust (head "ASTA", key 1) or the empty word (key 0).
+    QString AstaText(int p) const;
+    // Orb of p in degrees (Mercury and Venus narrower when retrograde); 0 outside 1..7.
+    double PlanetOrb(int p) const;
+    // Mean of the two orbs.
+    double PlanetMutOrb(int p1, int p2) const;
+    // Degree aspect between p1 and p2: 0 none, 1 conjunction, 2 square, 3 opposition, 4 trine, 5 sextile.
+    int PlanetDegAspect(int p1, int p2) const;
+    // Planet p (1..7) aspects sign s by its sign aspects.
+    bool CheckIfPlanetAspects(int p, int s) const;
+    // Planet b aspects planet a's sign (Rahu and Ketu by the seventh).
+    bool IfPlanetAspects(int a, int b) const;
+    // One of 5, 3, 7, 2 (benefics) or of 6, 1, 4 (malefics) aspects p's sign.
+    bool PlanetAspectedByNatBenefic(int p) const;
+    bool PlanetAspectedByNatMalefic(int p) const;
+    // Saturn (6) or Mars (4) aspects sign s by its malefic aspects, retrograde or direct.
+    bool CheckMaleficAspects(int p, int s) const;
+    // A benefic (5, 3, 2, 7) or malefic (1, 4, 6, 8, 9) stands in p's sign, p itself counted.
+    bool PlanetWithBenefic(int p) const;
+    bool PlanetWithMalefic(int p) const;
+    bool WithBenefic(int p) const { return PlanetWithBenefic(p); }
+    bool WithMalefic(int p) const { return PlanetWithMalefic(p); }
+    // An enemy of p aspects p's sign, or stands in it.
+    bool AspectedByEnemy(int p) const;
+    bool WithEnemy(int p) const;
+    // Sign of a counted from the sign of b: the same, kendra, trikona, trika, apoklima, panaphara.
+    bool PlanetInSameSign(int a, int b) const;
+    bool PlanetInKendra(int a, int b) const;
+    bool PlanetInTrikona(int a, int b) const;
+    bool PlanetInTrika(int a, int b) const;
+    bool PlanetInApoklima(int a, int b) const;
+    bool PlanetInPanaphara(int a, int b) const;
+    // p in sign s has directional strength from the Lagna's sign lagnaSign.
+    static bool CheckDigBala(int p, int lagnaSign, int s);
+    // p in sign s is exalted, in an own sign, or has directional strength from this Lagna.
+    bool CheckIfStrong(int p, int s) const;
+
+private:
+    bool signAspectedBy(int q, int target) const;
+    // ---- end of the dignity predicates ----
+
+    // ---- Divisional charts (clsPlanets_divisions.cpp) ----
+public:
+    // Fills the divisional table from the positions 0..12; the last step of Calculate.
+    void FillVargas();
+    // Sign of planet n (0..13) in division row k (0..17); 0 while the entry is Empty.
+    int PrediVarga(int n, int k) const;
+    // The entry itself: Empty before FillVargas and in column 13.
+    std::optional<int> PrediVargaValue(int n, int k) const;
+    // Navamsha sign of p from the table; true if it equals the sign itself.
+    int PlanetInNavamsha(int p) const { return PrediVarga(p, 6); }
+    bool PlanetVargottama(int p) const;
+    // How many of the rows 1..16 repeat p's sign (1..13), 0 for 14 or more.
+    int PlanetGopuramsa(int p) const;
+    // The planet (1..7) furthest advanced in its sign; 0 if none is past 0 degrees.
+    int AtmaKaraka() const;
+    // Navamsha sign of the Atma Karaka.
+    int KarakamsaLagna() const;
+    // Degrees of p within its sign, kept until the next Calculate.
+    double KrishAmsha(int p) const;
+    // Decanate 1..3 of the Sun in its tropical sign.
+    int Decanate() const;
+    // Lords of p's divisions.
+    int HoraLord(int n) const;
+    int CheckHora(int n) const { return HoraLord(n); }
+    int DrekkanaLord(int n) const;
+    int ChaturthamshLord(int n) const;
+    int SaptamshaLord(int n) const;
+    int DashamamshaLord(int n) const;
+    int DwaDashamamshaLord(int n) const;
+    int EkaDashamAmshaLord(int n) const;
+    int PanchamAmshLord(int n) const;
+    int SastamshLord(int n) const;
+    int VarAshtamamshaLord(int n) const;
+    // Navamsha number 1..12 by arithmetic (a boundary belongs to the navamsha below; 0 at a
+    // multiple of 40 degrees) and its lord (0 for 0).
+    int NavamshSign(int n) const;
+    int NavamshLord(int n) const;
+    // p's sixtieth part of the sign is a benefic one.
+    bool SashtiAmshaBenefic(int n) const;
+
+private:
+    // Division signs of longitude l: entries 0..17 are the rows of the table, 18 is unused.
+    static std::array<int, 19> CalcVargas(double l);
+    std::array<std::array<std::optional<int>, 14>, 18> m_varga{}; // [row][planet]
+    mutable std::array<double, 27> m_krishAmsha{};                 // 0 = not yet
+    // ---- end of the divisional charts ----
 };
