@@ -8,8 +8,12 @@
 #include "session/ZoneHistory.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
+#include "text/MessageSink.h"
+#include "text/TextDB.h"
 
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -24,6 +28,39 @@ struct InputError
 {
     QString text;
 };
+
+// A failure of the program's own files (status 1).
+struct SetupError
+{
+    QString text;
+};
+
+// Messages of the core (a missing text key) go to standard error as one line each; the run goes on.
+class StreamSink final : public MessageSink
+{
+public:
+    explicit StreamSink(QTextStream &err) : m_err(err) {}
+    void warn(const QString &title, const QString &text) override
+    {
+        m_err << title << ": " << QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')) << '\n';
+        m_err.flush();
+    }
+
+private:
+    QTextStream &m_err;
+};
+
+// The English text database from the data folder beside the program.
+QSqlDatabase openEnglish()
+{
+    const QString path = TextDBPath(QStringLiteral("ENGLISH"));
+    if (!QFileInfo(path).isFile())
+        throw SetupError{QStringLiteral("Text database not found: ") + QDir::toNativeSeparators(path)};
+    QSqlDatabase db;
+    if (!OpenTextDB(QStringLiteral("ENGLISH"), db))
+        throw SetupError{QStringLiteral("Text database could not be opened: ") + QDir::toNativeSeparators(path)};
+    return db;
+}
 
 QString messageLine(const EntryMessage &m) { return m.title + QStringLiteral(": ") + m.text; }
 
@@ -284,6 +321,34 @@ QJsonObject chartJson(const clsPlanets &chart)
     for (int i = 1; i <= 12; ++i)
         cusps.append(chart.KPHouse(i));
     o.insert(QStringLiteral("kp_cusps"), cusps);
+    o.insert(QStringLiteral("sunrise"), chart.SunRiseTime());
+    o.insert(QStringLiteral("sunset"), chart.SunSetTime());
+    QJsonArray mids, begins;
+    for (int i = 0; i <= 12; ++i) {
+        mids.append(chart.BhavMid(i));
+        begins.append(chart.BhavBegin(i));
+    }
+    o.insert(QStringLiteral("bhava_mid"), mids);
+    o.insert(QStringLiteral("bhava_begin"), begins);
+    o.insert(QStringLiteral("panchang"), QJsonObject{
+                                             {QStringLiteral("tithi"), chart.Tithi()},
+                                             {QStringLiteral("nakshatra"), chart.Nakshatra()},
+                                             {QStringLiteral("pada"), chart.Pada()},
+                                             {QStringLiteral("yoga"), chart.YogaNumber()},
+                                             {QStringLiteral("karana"), chart.KaranNumber()},
+                                             {QStringLiteral("weekday_lord"), chart.WeekDayLord()},
+                                             {QStringLiteral("rashi"), chart.RashiNum()},
+                                         });
+    QJsonArray vargas;
+    for (int k = 0; k < 18; ++k) {
+        QJsonArray row;
+        for (int n = 0; n <= 12; ++n) {
+            const std::optional<int> sign = chart.PrediVargaValue(n, k);
+            row.append(sign ? QJsonValue(*sign) : QJsonValue(QJsonValue::Null));
+        }
+        vargas.append(row);
+    }
+    o.insert(QStringLiteral("vargas"), vargas);
     return o;
 }
 
@@ -353,17 +418,28 @@ int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
         if (AppSettings::Vakya())
             if (const auto m = CheckVakyaLatitude(birth.fields.latitude))
                 throw InputError{messageLine(*m)};
-        clsPlanets chart;
-        fillPerson(birth, chart.Person());
-        chart.Calculate();
-        if (p.isSet(QStringLiteral("json")))
-            out << QJsonDocument(chartJson(chart)).toJson(QJsonDocument::Compact) << '\n';
-        else
-            writeTable(chart, out);
+        StreamSink sink(err);
+        ScopedMessageSink scopedSink(&sink);
+        QSqlDatabase textDb = openEnglish();
+        {
+            clsPlanets chart;
+            chart.setTextDB(textDb, QSqlDatabase());
+            fillPerson(birth, chart.Person());
+            chart.Calculate();
+            if (p.isSet(QStringLiteral("json")))
+                out << QJsonDocument(chartJson(chart)).toJson(QJsonDocument::Compact) << '\n';
+            else
+                writeTable(chart, out);
+        }
+        CloseTextDB(textDb);
     } catch (const InputError &e) {
         AppSettings::clearOverrides();
         err << e.text << '\n';
         return 2;
+    } catch (const SetupError &e) {
+        AppSettings::clearOverrides();
+        err << e.text << '\n';
+        return 1;
     }
     AppSettings::clearOverrides();
     return 0;

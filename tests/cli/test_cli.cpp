@@ -189,3 +189,31 @@ TEST(CommandLine, UnknownOrAmbiguousPlacesListTheCandidates)
     const CliRun both = run({"chart", "--date", "01/01/1980", "--time", "10.00", "--place", "Delhi", "--gmt", "+05.30"});
     EXPECT_EQ(both.status, 2);
 }
+
+TEST(CommandLine, JsonGrowsWithTheSunBhavasPanchangAndDivisions)
+{
+    ScopedSettingsStore store;
+    const CliRun r = run(kDelhi + QStringList{"--json"});
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    const QJsonObject o = QJsonDocument::fromJson(r.out.toUtf8()).object();
+    // Sunrise before and sunset after the birth at 14.35, as hh.mm.
+    EXPECT_GT(o["sunrise"].toDouble(), 5.0);
+    EXPECT_LT(o["sunrise"].toDouble(), 6.3);
+    EXPECT_GT(o["sunset"].toDouble(), 18.3);
+    EXPECT_LT(o["sunset"].toDouble(), 19.5);
+    EXPECT_EQ(o["bhava_mid"].toArray().size(), 13);
+    EXPECT_EQ(o["bhava_begin"].toArray().size(), 13);
+    EXPECT_DOUBLE_EQ(o["bhava_mid"].toArray()[0].toDouble(), o["planets"].toArray()[0].toObject()["longitude"].toDouble());
+    const QJsonObject panchang = o["panchang"].toObject();
+    for (const char *key : {"tithi", "nakshatra", "pada", "yoga", "karana", "weekday_lord", "rashi"})
+        EXPECT_TRUE(panchang.contains(key)) << key;
+    EXPECT_EQ(panchang["nakshatra"].toInt(), 13); // the Moon at 170 degrees: Hasta
+    EXPECT_EQ(panchang["rashi"].toInt(), 6);     // Virgo
+    const QJsonArray vargas = o["vargas"].toArray();
+    ASSERT_EQ(vargas.size(), 18);
+    ASSERT_EQ(vargas[0].toArray().size(), 13);
+    EXPECT_EQ(vargas[0].toArray()[1].toInt(), 12); // row 0 holds no division and reads 12
+    EXPECT_EQ(vargas[1].toArray()[1].toInt(), 4);  // the Sun in the rasi: Cancer
+    EXPECT_EQ(vargas[1].toArray()[7].toInt(), 6);  // the Moon: Virgo
+    EXPECT_EQ(vargas[6].toArray()[7].toInt(), 4);  // and its navamsha: Cancer
+}
