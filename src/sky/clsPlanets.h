@@ -62,6 +62,10 @@ public:
     // Bhava middle and beginning i (0..12); middle 0 is the Lagna.
     double BhavMid(int i) const;
     double BhavBegin(int i) const;
+    // Sign house of planet n counted from the Lagna's sign, 1..12.
+    int PlanetHouse(int n) const;
+    // Lord of sign s.
+    static int GetHouseLord(int s);
 
     // True when position n is greater than its value an hour later (no wrap at 360).
     bool RetroGrade(int n) const;

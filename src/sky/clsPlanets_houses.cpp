@@ -98,3 +98,7 @@ void clsPlanets::fillHouseRun(double start, double step, int first)
         m_bhavMid[static_cast<size_t>(first + i)] = v;
     }
 }
+
+int clsPlanets::PlanetHouse(int n) const { return Norm12(PlanetRashiNum(n) - PlanetRashiNum(0) + 1); }
+
+int clsPlanets::GetHouseLord(int s) { return SignLord(s); }

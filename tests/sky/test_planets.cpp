@@ -361,3 +361,16 @@ TEST(Planets, CopySettingToCarriesPlaceAndClockButNotTheCorrection)
     EXPECT_EQ(b.Person().TimeCorr(), "-00.00");
     EXPECT_EQ(b.Person().Sex(), 1);
 }
+
+TEST(Planets, SignHousesCountFromTheLagnasSign)
+{
+    ScopedSettingsStore store;
+    clsPlanets chart;
+    chart.setPerson(personOf({15, 8, 1980, 14, 35, 5.5, 28, 38, "N", 77, 12, "E"}));
+    chart.Calculate(); // Lagna in Scorpio, Sun in Cancer, Moon in Virgo
+    EXPECT_EQ(chart.PlanetHouse(0), 1);
+    EXPECT_EQ(chart.PlanetHouse(1), 9);
+    EXPECT_EQ(chart.PlanetHouse(7), 11);
+    EXPECT_EQ(clsPlanets::GetHouseLord(8), 4);  // Scorpio: Mars
+    EXPECT_EQ(clsPlanets::GetHouseLord(12), 5); // Pisces: Jupiter
+}
