@@ -341,3 +341,59 @@ StoreResult PersonStore::ImportPersons(const QString &file)
     }
     return {true, {}, static_cast<int>(rows.size())};
 }
+
+std::vector<qint64> PersonStore::IdsByName() const
+{
+    std::vector<qint64> ids;
+    QSqlQuery q(QStringLiteral("SELECT PersonId FROM qryPersonName"), m_db);
+    while (q.next())
+        ids.push_back(q.value(0).toLongLong());
+    return ids;
+}
+
+std::optional<PersonRow> PersonStore::RowById(qint64 id) const
+{
+    QSqlQuery q(m_db);
+    q.prepare(QStringLiteral("SELECT * FROM Person WHERE rowid = ?"));
+    q.addBindValue(id);
+    if (q.exec() && q.next())
+        return rowFrom(q.record());
+    return std::nullopt;
+}
+
+StoreResult PersonStore::UpdateRow(qint64 id, const PersonRow &row)
+{
+    QStringList sets;
+    for (const QString &c : storeColumns())
+        sets << c + QStringLiteral(" = ?");
+    QSqlQuery q(m_db);
+    q.prepare(QStringLiteral("UPDATE Person SET %1 WHERE rowid = ?").arg(sets.join(QLatin1Char(','))));
+    for (const QString &c : storeColumns())
+        q.addBindValue(columnValue(row, c));
+    q.addBindValue(id);
+    if (!q.exec())
+        return {false, q.lastError().text(), 0};
+    return {true, {}, q.numRowsAffected()};
+}
+
+StoreResult PersonStore::InsertRow(const PersonRow &row, qint64 *newId)
+{
+    QString error;
+    if (!insertRow(m_db, storeColumns(), row, &error))
+        return {false, error, 0};
+    if (newId) {
+        QSqlQuery q(QStringLiteral("SELECT last_insert_rowid()"), m_db);
+        *newId = q.next() ? q.value(0).toLongLong() : 0;
+    }
+    return {true, {}, 1};
+}
+
+StoreResult PersonStore::DeleteRow(qint64 id)
+{
+    QSqlQuery q(m_db);
+    q.prepare(QStringLiteral("DELETE FROM Person WHERE rowid = ?"));
+    q.addBindValue(id);
+    if (!q.exec())
+        return {false, q.lastError().text(), 0};
+    return {true, {}, q.numRowsAffected()};
+}

@@ -66,6 +66,16 @@ public:
     // Writes the rows into a new exchange file made from the template; an existing file is replaced
     // only when the new one is complete.
     static StoreResult ExportPersons(const QString &templateFile, const std::vector<PersonRow> &rows, const QString &file);
+    // The row ids of every person in name order (the cursor's order).
+    std::vector<qint64> IdsByName() const;
+    // The row of an id.
+    std::optional<PersonRow> RowById(qint64 id) const;
+    // Writes the row over the row of an id.
+    StoreResult UpdateRow(qint64 id, const PersonRow &row);
+    // Adds the row; its new id in newId.
+    StoreResult InsertRow(const PersonRow &row, qint64 *newId = nullptr);
+    // Deletes the row of an id.
+    StoreResult DeleteRow(qint64 id);
     // Every row of the store, in table order.
     std::vector<PersonRow> AllPersons() const;
     // Appends every row of an exchange file (no test for names already there). A file that is

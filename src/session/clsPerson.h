@@ -3,7 +3,12 @@
 // The birth record: who, when and where, with the date and time shifts that the chart core uses.
 
 #include <QDateTime>
+#include <QSqlDatabase>
 #include <QString>
+
+#include <vector>
+
+struct PersonRow;
 
 class clsPerson
 {
@@ -95,7 +100,34 @@ public:
     // Takes day, month, year, hour and minute from a moment; AMPM follows the hour.
     void SetBirthDate(const QDateTime &moment);
 
+    // The person as a cursor on table Person of a records database, in name order.
+    // Keeps db and goes to the first row, if any.
+    void SetDB(const QSqlDatabase &db);
+    QSqlDatabase GetDB() const { return m_db; }
+    // Number of rows the cursor walks.
+    long Count() const { return static_cast<long>(m_ids.size()); }
+    int RecordCount() const { return static_cast<int>(m_ids.size()); }
+    // Moves to row n (0 the first) and fills the fields from it.
+    void MoveTo(long n);
+    void MoveFirst();
+    void MoveLast();
+    void MoveNext();
+    // Deletes the current row.
+    void Delete();
+    // Writes the fields over the current row, or as a new row.
+    void Save();
+    void AddNew();
+    // Fills the fields from the first row named Name; found tells whether there was one.
+    void FindPerson(const QSqlDatabase &db, bool &found);
+
 private:
+    void normalisePerson();
+    void fillFrom(const PersonRow &row);
+    void storeFields(PersonRow &row) const;
+    QSqlDatabase m_db;
+    std::vector<qint64> m_ids;
+    long m_cursor = -1;
+
     QString m_name;
     int m_sex = 1;
     long m_day = 0, m_month = 0, m_year = 0;

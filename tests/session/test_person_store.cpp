@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/PersonStore.h"
+#include "session/clsPerson.h"
 
 #include <QFile>
 #include <QSqlQuery>
@@ -185,4 +186,49 @@ TEST_F(StoreFixture, DamagedOrForeignFilesChangeNothing)
         EXPECT_EQ(store.Count(), static_cast<int>(before.size())) << bad.toStdString();
     }
     EXPECT_EQ(store.AllPersons().front().Name, before.front().Name);
+}
+
+TEST_F(StoreFixture, PersonCursorWalksByNameAndWritesBack)
+{
+    PersonStore store(db);
+    for (const char *name : {"Meera", "Anil", "Zoya"}) {
+        PersonRow r = asha();
+        r.Name = name;
+        store.SavePerson(r);
+    }
+    QSqlQuery q(db);
+    ASSERT_TRUE(q.exec("UPDATE Person SET GMTDIFF = NULL, Tcorrinde = NULL WHERE Name = 'Zoya'"));
+
+    clsPerson p;
+    p.SetDB(db);
+    EXPECT_EQ(p.Count(), 3);
+    EXPECT_EQ(p.Name(), "Anil"); // the first row in name order
+    p.MoveNext();
+    EXPECT_EQ(p.Name(), "Meera");
+    p.MoveLast();
+    EXPECT_EQ(p.Name(), "Zoya");
+    EXPECT_EQ(p.GMTDIFF(), "+00.00");
+    EXPECT_EQ(p.TimeCorrInde(), 0);
+    EXPECT_EQ(p.PLOB(), "Delhi");
+
+    p.MoveTo(1);
+    p.setHour(23);
+    p.Save();
+    EXPECT_EQ(store.FindPerson("Meera")->Hour, 23);
+    p.setName("Nila");
+    p.AddNew();
+    EXPECT_EQ(store.Count(), 4);
+    p.MoveTo(0);
+    p.Delete();
+    EXPECT_FALSE(store.FindPerson("Anil"));
+
+    clsPerson finder;
+    finder.setName("zoya");
+    bool found = false;
+    finder.FindPerson(db, found);
+    EXPECT_TRUE(found);
+    EXPECT_EQ(finder.Day(), 2);
+    finder.setName("Nobody");
+    finder.FindPerson(db, found);
+    EXPECT_FALSE(found);
 }
