@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "cli/CommandLine.h"
+#include "session/ui/MessageBoxSink.h"
 #include "session/ui/frmSplash.h"
 #include "session/ui/mdiMother.h"
 
@@ -29,6 +30,8 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orbanta"));
     QApplication::setApplicationVersion(QStringLiteral(ORBANTA_VERSION));
+    MessageBoxSink boxes;
+    const ScopedMessageSink answerWithBoxes(&boxes);
     frmSplash splash;
     splash.show();
     std::unique_ptr<mdiMother> main(splash.DoLoad());

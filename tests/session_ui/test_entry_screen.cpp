@@ -236,3 +236,19 @@ TEST_F(EntryScreen, Screenshots)
     QApplication::processEvents();
     splash.grab().save(out + "/splash.png");
 }
+
+TEST_F(EntryScreen, VarshaphalaModeOffersAHundredYears)
+{
+    screen->cmdVarshaphala_Click();
+    EXPECT_EQ(Session().ProgMode, 4);
+    EXPECT_EQ(screen->frmSingleGuy->title(), "Varsha Phala");
+    const int birthYear = QDate::currentDate().year() - 30;
+    typeBirth(screen->single, "01/01/" + QString::number(birthYear), "10.00", "028:38", "077:12", "+05.30");
+    ASSERT_TRUE(screen->cmdGenerate_Click());
+    QComboBox *years = window->cmbYearList();
+    ASSERT_EQ(years->count(), 100);
+    EXPECT_EQ(years->itemText(0), QString::number(birthYear));
+    EXPECT_EQ(years->currentIndex(), 29);
+    EXPECT_EQ(Session().VarshaYear, 30);
+    screen->cmdHoroscope_Click();
+}

@@ -10,6 +10,7 @@
 #include "sky/Functions.h"
 
 #include <QCloseEvent>
+#include <QDate>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
@@ -113,6 +114,25 @@ void mdiMother::buildMenus()
     m_tools->setObjectName(QStringLiteral("tbMain"));
     m_tools->addAction(QStringLiteral("Entry Screen"), this, &mdiMother::ShowEntryScreen);
     m_tools->setVisible(false);
+
+    m_yearBar = addToolBar(QStringLiteral("Year"));
+    m_yearBar->addWidget(new QLabel(QStringLiteral(" Year ")));
+    m_years = new QComboBox;
+    m_years->setObjectName(QStringLiteral("cmbYearList"));
+    m_yearBar->addWidget(m_years);
+    m_yearBar->setVisible(false);
+    connect(m_years, &QComboBox::currentIndexChanged, this, [](int i) {
+        if (i >= 0)
+            Session().VarshaYear = i + 1;
+    });
+}
+
+void mdiMother::FillYearList(int birthYear)
+{
+    const QSignalBlocker block(m_years);
+    m_years->clear();
+    for (int n = 0; n < 100; ++n)
+        m_years->addItem(QString::number(birthYear + n));
 }
 
 void mdiMother::StartSession()
@@ -128,6 +148,13 @@ void mdiMother::StartSession()
         html = summaryOf(*s.CurPlanets);
     m_summary->setHtml(html);
     m_tools->setVisible(AppSettings::value(QStringLiteral("Settings"), QStringLiteral("ToolBar"), true).toBool());
+    m_yearBar->setVisible(s.ProgMode == 4);
+    if (s.ProgMode == 4 && s.CurPlanets) {
+        const int birthYear = static_cast<int>(Val(m_login->single->txtDate->text().right(4)));
+        FillYearList(birthYear);
+        const int item = QDate::currentDate().year() - birthYear - 1;
+        m_years->setCurrentIndex(item >= 0 && item <= 99 ? item : 0);
+    }
     m_stack->setCurrentWidget(m_sessionPage);
     setWindowTitle(QStringLiteral("Orbanta"));
 }
@@ -136,6 +163,7 @@ void mdiMother::ShowEntryScreen()
 {
     Session().ReleaseCharts();
     m_tools->setVisible(false);
+    m_yearBar->setVisible(false);
     m_stack->setCurrentWidget(m_login);
     setWindowTitle(QStringLiteral("Orbanta-Entry Screen"));
 }

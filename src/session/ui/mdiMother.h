@@ -3,6 +3,7 @@
 // The main window: menus, tool bar, status bar, the name strip, and the area that shows the
 // entry screen or the session's topics.
 
+#include <QComboBox>
 #include <QLabel>
 #include <QMainWindow>
 #include <QStackedWidget>
@@ -21,6 +22,9 @@ public:
     void ShowEntryScreen();
     // After Generate: the name strip and the session area.
     void StartSession();
+    // The year list of the annual reading: the birth year and the 99 after it.
+    void FillYearList(int birthYear);
+    QComboBox *cmbYearList() const { return m_years; }
     // When false, closing asks nothing (tests).
     static void setAskOnExit(bool ask);
 
@@ -40,4 +44,6 @@ private:
     QLabel *m_nameStrip;
     QTextBrowser *m_summary;
     QToolBar *m_tools;
+    QToolBar *m_yearBar;
+    QComboBox *m_years;
 };
