@@ -1,32 +1,13 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // One chart cast, beside the bare ephemeris calls that it makes.
-#include "session/AppSettings.h"
+#include "BenchSupport.h"
 #include "sky/clsPlanets.h"
 
-#include <QCoreApplication>
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 #include <swephexp.h>
 
 namespace {
-
-void fillDelhi(clsPerson &p)
-{
-    p.setName(QStringLiteral("Bench"));
-    p.setDay(15);
-    p.setMonth(8);
-    p.setYear(1980);
-    p.setHour(14);
-    p.setMinutes(35);
-    p.setGMTDIFF(QStringLiteral("5.5"));
-    p.setLatDeg(28);
-    p.setLatMT(38);
-    p.setTextNS(QStringLiteral("N"));
-    p.setLongDeg(77);
-    p.setLongMT(12);
-    p.setTextEW(QStringLiteral("E"));
-}
 
 void BM_Calculate(benchmark::State &state)
 {
@@ -75,13 +56,4 @@ BENCHMARK(BM_EphemerisCallsOfOneCast);
 
 } // namespace
 
-int main(int argc, char **argv)
-{
-    QCoreApplication app(argc, argv);
-    QTemporaryDir dir;
-    AppSettings::setStoreFile(dir.filePath(QStringLiteral("bench.ini")));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+int main(int argc, char **argv) { return RunBenchmarks(argc, argv); }

@@ -1,31 +1,12 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // Sunrise and sunset of a fresh chart, with the number of chart casts each one costs.
-#include "session/AppSettings.h"
+#include "BenchSupport.h"
 #include "sky/clsPlanets.h"
 
-#include <QCoreApplication>
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
 namespace {
-
-void fillDelhi(clsPerson &p)
-{
-    p.setName(QStringLiteral("Bench"));
-    p.setDay(15);
-    p.setMonth(8);
-    p.setYear(1980);
-    p.setHour(14);
-    p.setMinutes(35);
-    p.setGMTDIFF(QStringLiteral("5.5"));
-    p.setLatDeg(28);
-    p.setLatMT(38);
-    p.setTextNS(QStringLiteral("N"));
-    p.setLongDeg(77);
-    p.setLongMT(12);
-    p.setTextEW(QStringLiteral("E"));
-}
 
 // One sun member on a chart that has just been cast: its first call, memo empty. The counter
 // "casts" is the number of Calculate runs the call makes (the chart's own cast not counted).
@@ -77,13 +58,4 @@ BENCHMARK(BM_SunRiseTimeKept);
 
 } // namespace
 
-int main(int argc, char **argv)
-{
-    QCoreApplication app(argc, argv);
-    QTemporaryDir dir;
-    AppSettings::setStoreFile(dir.filePath(QStringLiteral("bench.ini")));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+int main(int argc, char **argv) { return RunBenchmarks(argc, argv); }
