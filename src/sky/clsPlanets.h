@@ -17,6 +17,8 @@
 #include <memory>
 #include <optional>
 
+class KundaliModel;
+
 class clsPlanets
 {
 public:
@@ -62,10 +64,18 @@ public:
     // Bhava middle and beginning i (0..12); middle 0 is the Lagna.
     double BhavMid(int i) const;
     double BhavBegin(int i) const;
+    // Sets beginning i (0..12), as the bhava table is edited or built by hand.
+    void setBhavBegin(int i, double v);
     // Sign house of planet n counted from the Lagna's sign, 1..12.
     int PlanetHouse(int n) const;
     // Lord of sign s.
     static int GetHouseLord(int s);
+    // The Chalit chart into a wheel: the Lagna in its sign, each planet 1..12 in the cell of its bhava,
+    // named by PlanetName (or PlanetNameEng). The caller clears the wheel first.
+    void FillBhavaKundali(KundaliModel &k) const;
+    void FillBhavaKundaliEnglish(KundaliModel &k) const;
+    // The bhava 0..11 that holds planet p (1..12), counted from the first beginning.
+    int ChalitBhava(int p) const;
 
     // True when position n is greater than its value an hour later (no wrap at 360).
     bool RetroGrade(int n) const;

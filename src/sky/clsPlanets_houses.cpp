@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The Lagna and the twelve bhavas, from the local sidereal time by the program's own trigonometry.
 #include "sky/clsPlanets.h"
+#include "chartdraw/KundaliModel.h"
 
 #include "sky/Functions.h"
 
@@ -102,3 +103,45 @@ void clsPlanets::fillHouseRun(double start, double step, int first)
 int clsPlanets::PlanetHouse(int n) const { return Norm12(PlanetRashiNum(n) - PlanetRashiNum(0) + 1); }
 
 int clsPlanets::GetHouseLord(int s) { return SignLord(s); }
+
+int clsPlanets::ChalitBhava(int p) const
+{
+    // Unroll the circle from the first beginning, then take the first bhava whose end lies beyond
+    // the planet. A planet exactly on a boundary belongs to the bhava that begins there; one in the
+    // rounding sliver past the last end stays in the twelfth.
+    const double first = BhavBegin(0);
+    const auto unrolled = [first](double v) { return first > v ? v + 360.0 : v; };
+    const double l = unrolled(PlanetLongi(p));
+    for (int k = 0; k < 12; ++k) {
+        if (l >= unrolled(BhavBegin(k)) && l < unrolled(BhavBegin(k + 1)))
+            return k;
+    }
+    return 11;
+}
+
+namespace {
+template <typename NameOf> void fillChalit(const clsPlanets &c, KundaliModel &k, NameOf nameOf)
+{
+    const int r = c.PlanetRashiNum(0);
+    k.setHouseNumber(r);
+    k.PlanetPlace(r, nameOf(0));
+    for (int p = 1; p <= 12; ++p)
+        k.PlanetPlace(Norm12(r + c.ChalitBhava(p)), nameOf(p));
+}
+} // namespace
+
+void clsPlanets::FillBhavaKundali(KundaliModel &k) const
+{
+    fillChalit(*this, k, [this](int p) { return PlanetName(p); });
+}
+
+void clsPlanets::FillBhavaKundaliEnglish(KundaliModel &k) const
+{
+    fillChalit(*this, k, [](int p) { return PlanetNameEng(p); });
+}
+
+void clsPlanets::setBhavBegin(int i, double v)
+{
+    if (i >= 0 && i < static_cast<int>(m_bhavBegin.size()))
+        m_bhavBegin[static_cast<size_t>(i)] = v;
+}
