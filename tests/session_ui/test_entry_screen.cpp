@@ -5,6 +5,7 @@
 #include "session/ui/frmSplash.h"
 #include "session/ui/mdiMother.h"
 #include "support/TestSupport.h"
+#include "session_ui/SessionWindow.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,60 +16,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-class EntryScreen : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        qputenv("ORBANTA_STUFF", ORBANTA_BINARY_DIR "/STUFF");
-        const QString file = dir.filePath("RECOS.Dat");
-        ASSERT_TRUE(QFile::copy(ORBANTA_BINARY_DIR "/STUFF/COMMON/RECOS.Dat", file));
-        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
-        Session().RecDB = QSqlDatabase::addDatabase("QSQLITE", "entry_test");
-        Session().RecDB.setDatabaseName(file);
-        ASSERT_TRUE(Session().RecDB.open());
-        frmLogin::setMessageHandler([this](const EntryMessage &m) { messages.push_back(m); });
-        mdiMother::setAskOnExit(false);
-        window = std::make_unique<mdiMother>();
-        screen = window->login();
-        screen->cmdHoroscope_Click();
-    }
-    void TearDown() override
-    {
-        window.reset();
-        Session().ReleaseCharts();
-        Session().RecDB.close();
-        Session().RecDB = QSqlDatabase();
-        QSqlDatabase::removeDatabase("entry_test");
-        frmLogin::setMessageHandler({});
-    }
-    void typeBirth(BirthPanel *p, const QString &date, const QString &time, const QString &lat, const QString &lon,
-                   const QString &gmt)
-    {
-        p->txtDate->setText(date);
-        p->txtTime->setText(time);
-        p->txtLati->setText(lat);
-        p->txtLongi->setText(lon);
-        p->txtGMT->setText(gmt);
-    }
-    std::vector<int> numbers() const
-    {
-        std::vector<int> n;
-        for (const EntryMessage &m : messages)
-            n.push_back(m.number);
-        return n;
-    }
-
-    ScopedSettingsStore store;
-    QTemporaryDir dir;
-    std::vector<EntryMessage> messages;
-    std::unique_ptr<mdiMother> window;
-    frmLogin *screen = nullptr;
-};
-
-} // namespace
 
 TEST_F(EntryScreen, GenerateRefusesEachWrongFieldWithItsMessageInOrder)
 {

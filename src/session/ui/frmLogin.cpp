@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/ui/frmLogin.h"
 
+#include "text/TextDB.h"
+
 #include "session/AppSettings.h"
 #include "session/DataPaths.h"
 #include "session/Hints.h"
@@ -191,16 +193,18 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
             fillPlaces(p, QStringLiteral("India"));
         }
     }
-    const std::vector<LanguageRow> languages = Languages::Offered(Languages::Load());
-    for (const LanguageRow &l : languages)
+    m_languages = Languages::Offered(Languages::Load());
+    for (const LanguageRow &l : m_languages)
         cmbLangu->addItem(l.style.Name);
     if (cmbLangu->count() == 0)
         cmbLangu->addItem(QStringLiteral("English"));
     QSettings ini = gendat();
     const int selLang = ini.value(QStringLiteral("Orbanta/SelLang"), 0).toInt();
     cmbLangu->setCurrentIndex(selLang >= 0 && selLang < cmbLangu->count() ? selLang : 0);
+    selectLanguage(cmbLangu->currentIndex());
     connect(cmbLangu, &QComboBox::currentIndexChanged, this, [this](int i) {
         gendat().setValue(QStringLiteral("Orbanta/SelLang"), i);
+        selectLanguage(i);
         postHint(115);
     });
     Session().ProgMode = 1;
@@ -212,6 +216,21 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     else if (mode == QLatin1String("Varsh"))
         cmdVarshaphala_Click();
     postHint(101);
+}
+
+void frmLogin::selectLanguage(int index)
+{
+    // The language's sizes become the pages' globals, and its text database the session's.
+    SessionGlobals &s = Session();
+    s.Language = index >= 0 && index < static_cast<int>(m_languages.size()) ? m_languages[static_cast<size_t>(index)].style
+                                                                            : LanguageStyle();
+    ClearSymbolCache();
+    QSqlDatabase opened;
+    if (!OpenTextDB(s.Language.Directory, opened))
+        return; // reported; the database in use stays
+    if (s.TextDB.isValid() && s.TextDB.connectionName() != opened.connectionName())
+        CloseTextDB(s.TextDB);
+    s.TextDB = opened;
 }
 
 PersonStore frmLogin::store() const { return PersonStore(Session().RecDB); }

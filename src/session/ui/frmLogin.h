@@ -3,6 +3,7 @@
 // The entry screen: the three modes, the birth fields, the person list, and Generate.
 
 #include "session/EntryValidation.h"
+#include "session/Languages.h"
 #include "session/PersonStore.h"
 #include "session/clsPerson.h"
 #include "session/ui/BirthPanel.h"
@@ -61,6 +62,9 @@ Q_SIGNALS:
     void optionsRequested();
 
 private:
+    // Takes the language of list entry index: its sizes and its text database.
+    void selectLanguage(int index);
+    std::vector<LanguageRow> m_languages;
     void postHint(int number);
     void postText(const QString &text);
     void showMessage(const EntryMessage &m);

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/ui/mdiMother.h"
 
+#include "output/ui/BottomBar.h"
+#include "output/ui/TopicPage.h"
+#include "sky/pages/frmSodash.h"
+
 #include "session/AppSettings.h"
 #include "session/Session.h"
 #include "session/ui/frmCalcOptions.h"
@@ -9,7 +13,13 @@
 #include "session/ui/frmWizard.h"
 #include "sky/Functions.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QHeaderView>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStyle>
+#include <QTreeWidget>
 #include <QDate>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -47,11 +57,18 @@ QString summaryOf(const clsPlanets &c)
 
 void mdiMother::setAskOnExit(bool ask) { g_askOnExit = ask; }
 
+namespace {
+QVariant viewSetting(const char *key, bool def)
+{
+    return AppSettings::value(QStringLiteral("Settings"), QString::fromLatin1(key), def);
+}
+} // namespace
+
 mdiMother::mdiMother(QWidget *parent) : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("mdiMother"));
     setWindowTitle(QStringLiteral("Orbanta-Entry Screen"));
-    resize(960, 680);
+    resize(1100, 800);
 
     m_stack = new QStackedWidget;
     m_login = new frmLogin;
@@ -62,18 +79,64 @@ mdiMother::mdiMother(QWidget *parent) : QMainWindow(parent)
     f.setPointSize(f.pointSize() + 3);
     f.setBold(true);
     m_nameStrip->setFont(f);
+
+    // The side panel with the topic tree, a splitter, and the page area.
+    tvMap = new QTreeWidget;
+    tvMap->setObjectName(QStringLiteral("tvMap"));
+    tvMap->setHeaderHidden(true);
+    tvMap->setRootIsDecorated(false);
+    m_sidePanel = new QWidget;
+    auto *side = new QVBoxLayout(m_sidePanel);
+    side->setContentsMargins(0, 0, 0, 0);
+    side->addWidget(tvMap);
+    m_pageStack = new QStackedWidget;
+    m_pageStack->setFixedSize(TopicPage::kWidth, TopicPage::kHeight);
+    m_pageScroll = new QScrollArea;
+    m_pageScroll->setObjectName(QStringLiteral("pageArea"));
+    m_pageScroll->setWidget(m_pageStack);
+    m_pageScroll->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_pageScroll->setBackgroundRole(QPalette::Dark);
     m_summary = new QTextBrowser;
+    m_centre = new QStackedWidget;
+    m_centre->addWidget(m_pageScroll);
+    m_centre->addWidget(m_summary);
+    m_split = new QSplitter(Qt::Horizontal);
+    m_split->setObjectName(QStringLiteral("Picture1"));
+    m_split->addWidget(m_sidePanel);
+    m_split->addWidget(m_centre);
+    m_split->setStretchFactor(1, 1);
+    m_split->setSizes({220, 880});
+    bBar = new BottomBar;
+
     auto *session = new QVBoxLayout(m_sessionPage);
+    session->setContentsMargins(4, 4, 4, 4);
     session->addWidget(m_nameStrip);
-    session->addWidget(m_summary, 1);
+    session->addWidget(m_split, 1);
+    session->addWidget(bBar);
     m_stack->addWidget(m_login);
     m_stack->addWidget(m_sessionPage);
     setCentralWidget(m_stack);
 
+    cmbTopic = new QComboBox;
+    cmbTopic->setObjectName(QStringLiteral("cmbTopic"));
+    cmbTopic->setMinimumWidth(260);
+    cmbTopic->setMaxVisibleItems(20);
     buildMenus();
     statusBar()->showMessage(QStringLiteral("Ready"));
+    statusBar()->setVisible(viewSetting("StatusBar", true).toBool());
+    bBar->setVisible(viewSetting("BotBar", true).toBool());
+    m_sidePanel->setVisible(viewSetting("TopicListVis", true).toBool());
+    tbTopicMap->setChecked(m_sidePanel->isVisible());
+
     connect(m_login, &frmLogin::generated, this, &mdiMother::StartSession);
     connect(m_login, &frmLogin::optionsRequested, this, &mdiMother::wizardRequested);
+    connect(cmbTopic, &QComboBox::currentIndexChanged, this, &mdiMother::cmbTopic_Click);
+    connect(bBar, &BottomBar::ItemClick, this, &mdiMother::SelectTopic);
+    connect(tvMap, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem *item) {
+        const int index = tvMap->indexOfTopLevelItem(item);
+        if (index != cmbTopic->currentIndex())
+            SelectTopic(index);
+    });
 
     // The settings dialogs write the store at once; the next cast reads it.
     connect(this, &mdiMother::settingsRequested, this, [this](int page) { frmEditLongLat(page, this).exec(); });
@@ -88,6 +151,42 @@ void mdiMother::buildMenus()
     entry->setObjectName(QStringLiteral("mnuEntry"));
     file->addSeparator();
     file->addAction(QStringLiteral("E&xit"), this, &QWidget::close);
+
+    QMenu *view = menuBar()->addMenu(QStringLiteral("&View"));
+    const struct
+    {
+        const char *name, *text, *key;
+    } bars[] = {{"mnuViewNavBar", "&Navigation Bar", "BotBar"},
+                {"mnuViewToolbar", "&Toolbar", "Toolbar"},
+                {"mnuViewStatusBar", "&Status Bar", "StatusBar"}};
+    for (const auto &b : bars) {
+        QAction *a = view->addAction(QString::fromLatin1(b.text));
+        a->setObjectName(QString::fromLatin1(b.name));
+        a->setCheckable(true);
+        a->setChecked(viewSetting(b.key, true).toBool());
+        const QString key = QString::fromLatin1(b.key);
+        connect(a, &QAction::toggled, this, [this, key](bool on) {
+            if (key == QLatin1String("BotBar"))
+                bBar->setVisible(on && m_stack->currentWidget() == m_sessionPage);
+            else if (key == QLatin1String("Toolbar"))
+                m_tools->setVisible(on && m_stack->currentWidget() == m_sessionPage);
+            else
+                statusBar()->setVisible(on);
+            AppSettings::setValue(QStringLiteral("Settings"), key, on);
+        });
+    }
+
+    m_navigate = menuBar()->addMenu(QStringLiteral("&Navigate"));
+    m_navigate->setObjectName(QStringLiteral("mnuNavigate"));
+    mnuNavPrev = m_navigate->addAction(QStringLiteral("&Previous Topic"), this, [this] { step(-1); });
+    mnuNavPrev->setObjectName(QStringLiteral("mnuNavPrev"));
+    mnuNavPrev->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp));
+    mnuNavNext = m_navigate->addAction(QStringLiteral("&Next Topic"), this, [this] { step(1); });
+    mnuNavNext->setObjectName(QStringLiteral("mnuNavNext"));
+    mnuNavNext->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown));
+    m_navigate->addSeparator();
+    buildNavigateMenus();
+    m_navigate->menuAction()->setVisible(false);
 
     QMenu *settings = menuBar()->addMenu(QStringLiteral("&Settings"));
     settings->addAction(QStringLiteral("&Setup Wizard..."), this, &mdiMother::wizardRequested)->setObjectName(QStringLiteral("mnuSettSetupWiz"));
@@ -112,7 +211,25 @@ void mdiMother::buildMenus()
 
     m_tools = addToolBar(QStringLiteral("Tools"));
     m_tools->setObjectName(QStringLiteral("tbMain"));
-    m_tools->addAction(QStringLiteral("Entry Screen"), this, &mdiMother::ShowEntryScreen);
+    m_tools->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    const auto tool = [this](const char *key, const char *text, QStyle::StandardPixmap icon) {
+        QAction *a = m_tools->addAction(style()->standardIcon(icon), QString::fromLatin1(text));
+        a->setObjectName(QString::fromLatin1(key));
+        return a;
+    };
+    connect(tool("Exit", "Exit", QStyle::SP_DialogCloseButton), &QAction::triggered, this, &QWidget::close);
+    connect(tool("Entry", "Entry", QStyle::SP_FileDialogBack), &QAction::triggered, this, &mdiMother::ShowEntryScreen);
+    m_tools->addSeparator();
+    tbPrevious = tool("Previous", "Previous", QStyle::SP_ArrowBack);
+    connect(tbPrevious, &QAction::triggered, this, [this] { step(-1); });
+    tbNext = tool("Next", "Next", QStyle::SP_ArrowForward);
+    connect(tbNext, &QAction::triggered, this, [this] { step(1); });
+    tbTopicMap = tool("TopicMap", "Topics", QStyle::SP_FileDialogListView);
+    tbTopicMap->setCheckable(true);
+    connect(tbTopicMap, &QAction::triggered, this, [this] { ToggleSideList(); });
+    m_tools->addSeparator();
+    m_tools->addWidget(new QLabel(QStringLiteral(" Topic ")));
+    m_tools->addWidget(cmbTopic);
     m_tools->setVisible(false);
 
     m_yearBar = addToolBar(QStringLiteral("Year"));
@@ -125,6 +242,165 @@ void mdiMother::buildMenus()
         if (i >= 0)
             Session().VarshaYear = i + 1;
     });
+}
+
+void mdiMother::buildNavigateMenus()
+{
+    // The numbered lists are fixed; an item leads to the topic its number names, where that topic
+    // has its page in this program.
+    const struct
+    {
+        QMenu **menu;
+        const char *name, *title;
+        int mode;
+    } lists[] = {{&mnuHorNav, "mnuHorNav", "&Horoscope Topics", 1},
+                 {&mnuVarNav, "mnuVarNav", "&Varshaphala Topics", 4},
+                 {&mnuMarNav, "mnuMarNav", "&Marriage Topics", 2}};
+    for (const auto &l : lists) {
+        QMenu *menu = m_navigate->addMenu(QString::fromLatin1(l.title));
+        menu->setObjectName(QString::fromLatin1(l.name));
+        *l.menu = menu;
+        const QStringList captions = NavigateMenuCaptions(l.mode);
+        for (int i = 0; i < captions.size(); ++i) {
+            QAction *a = menu->addAction(captions[i]);
+            a->setObjectName(QStringLiteral("%1_%2").arg(QString::fromLatin1(l.name)).arg(i));
+            // Horoscope mode numbers its topics from 1 after Quick View, which the list has at 0.
+            const int fullIndex = l.mode == 1 ? i + 1 : i;
+            connect(a, &QAction::triggered, this, [this, fullIndex] {
+                for (int t = 0; t < m_topicList.size(); ++t) {
+                    if (m_topicList[t].Number == fullIndex) {
+                        SelectTopic(t);
+                        return;
+                    }
+                }
+            });
+        }
+        menu->menuAction()->setVisible(false);
+    }
+}
+
+void mdiMother::AddTopic(const QString &caption, const QString &shortName)
+{
+    {
+        const QSignalBlocker block(cmbTopic);
+        cmbTopic->addItem(caption);
+    }
+    bBar->setItemCount(bBar->ItemCount() + 1);
+    bBar->setItemCaption(bBar->ItemCount() - 1, shortName);
+    auto *node = new QTreeWidgetItem(tvMap, {caption});
+    node->setIcon(0, style()->standardIcon(QStyle::SP_FileIcon)); // the "Page" icon
+}
+
+void mdiMother::BuildTopicList(int progMode)
+{
+    {
+        const QSignalBlocker block(cmbTopic);
+        cmbTopic->clear();
+    }
+    bBar->Clear();
+    tvMap->clear();
+    m_topicList = TopicsForMode(progMode, Session().Language.Extended);
+    for (const TopicEntry &t : m_topicList)
+        AddTopic(t.Caption, t.ShortName);
+    // Only the numbered list of this mode shows, its items enabled where the topic is here.
+    for (auto [menu, mode] : {std::pair{mnuHorNav, 1}, std::pair{mnuVarNav, 4}, std::pair{mnuMarNav, 2}}) {
+        menu->menuAction()->setVisible(mode == progMode);
+        const QList<QAction *> items = menu->actions();
+        for (int i = 0; i < items.size(); ++i) {
+            const int fullIndex = mode == 1 ? i + 1 : i;
+            bool here = false;
+            for (const TopicEntry &t : m_topicList)
+                here = here || t.Number == fullIndex;
+            items[i]->setEnabled(here);
+        }
+    }
+    m_navigate->menuAction()->setVisible(true);
+}
+
+void mdiMother::SelectTopic(int index)
+{
+    if (index < 0 || index >= cmbTopic->count())
+        return;
+    if (cmbTopic->currentIndex() == index)
+        cmbTopic_Click(index); // every route ends here, also when the index stays
+    else
+        cmbTopic->setCurrentIndex(index);
+}
+
+void mdiMother::step(int by)
+{
+    const int index = qBound(0, cmbTopic->currentIndex() + by, cmbTopic->count() - 1);
+    if (index != cmbTopic->currentIndex())
+        SelectTopic(index);
+}
+
+void mdiMother::cmbTopic_Click(int index)
+{
+    if (index < 0)
+        return;
+    const bool last = index == cmbTopic->count() - 1;
+    tbNext->setEnabled(!last);
+    mnuNavNext->setEnabled(!last);
+    tbPrevious->setEnabled(index != 0);
+    mnuNavPrev->setEnabled(index != 0);
+    ShowTopic(index);
+    bBar->setSelectedItem(index);
+    if (QTreeWidgetItem *node = tvMap->topLevelItem(index))
+        tvMap->setCurrentItem(node);
+    if (m_active && index < m_topicList.size()) {
+        const TopicEntry &t = m_topicList[index];
+        // Horoscope pages number as their place in the full list (Quick View shows none); in the
+        // other modes the first page keeps its own number and the later ones show their index.
+        if (Session().ProgMode == 1)
+            m_active->lblPageNo->setText(t.Number == 0 ? QString() : QString::number(t.Number));
+        else if (index != 0)
+            m_active->lblPageNo->setText(QString::number(index));
+    }
+}
+
+void mdiMother::ShowTopic(int index)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (m_active)
+        m_active->hide();
+    m_active = nullptr;
+    const int mode = Session().ProgMode;
+    if ((mode == 1 || mode == 2 || mode == 4) && index >= 0 && index < m_topicList.size()) {
+        const TopicEntry &t = m_topicList[index];
+        TopicPage *page = m_pages.value(t.Page);
+        if (!page && (page = CreateTopicPage(t.Page))) {
+            m_pages.insert(t.Page, page);
+            m_pageStack->addWidget(page);
+            page->Load();
+        }
+        if (page) {
+            if (auto *sodash = qobject_cast<frmSodash *>(page))
+                sodash->MakePage(t.PageArg);
+            m_pageStack->setCurrentWidget(page);
+            page->show();
+            m_active = page;
+        }
+    }
+    setWindowTitle(QStringLiteral("Orbanta-") + cmbTopic->itemText(index));
+    QApplication::restoreOverrideCursor();
+}
+
+void mdiMother::UnloadPages()
+{
+    m_active = nullptr;
+    for (TopicPage *page : std::as_const(m_pages)) {
+        m_pageStack->removeWidget(page);
+        delete page;
+    }
+    m_pages.clear();
+}
+
+void mdiMother::ToggleSideList()
+{
+    const bool show = !m_sidePanel->isVisible();
+    m_sidePanel->setVisible(show);
+    AppSettings::setValue(QStringLiteral("Settings"), QStringLiteral("TopicListVis"), show);
+    tbTopicMap->setChecked(show);
 }
 
 void mdiMother::FillYearList(int birthYear)
@@ -141,13 +417,9 @@ void mdiMother::StartSession()
     m_nameStrip->setText(s.ProgMode == 2 ? m_login->boy->cmbName->currentText() + QStringLiteral(" & ")
                                                + m_login->gal->cmbName->currentText()
                                          : m_login->single->cmbName->currentText());
-    QString html;
-    if (s.ProgMode == 2 && s.BoyPlanets && s.GalPlanets)
-        html = summaryOf(*s.BoyPlanets) + summaryOf(*s.GalPlanets);
-    else if (s.CurPlanets)
-        html = summaryOf(*s.CurPlanets);
-    m_summary->setHtml(html);
-    m_tools->setVisible(AppSettings::value(QStringLiteral("Settings"), QStringLiteral("ToolBar"), true).toBool());
+    UnloadPages();
+    m_tools->setVisible(viewSetting("Toolbar", true).toBool());
+    bBar->setVisible(viewSetting("BotBar", true).toBool());
     m_yearBar->setVisible(s.ProgMode == 4);
     if (s.ProgMode == 4 && s.CurPlanets) {
         const int birthYear = static_cast<int>(Val(m_login->single->txtDate->text().right(4)));
@@ -156,14 +428,31 @@ void mdiMother::StartSession()
         m_years->setCurrentIndex(item >= 0 && item <= 99 ? item : 0);
     }
     m_stack->setCurrentWidget(m_sessionPage);
-    setWindowTitle(QStringLiteral("Orbanta"));
+    BuildTopicList(s.ProgMode);
+    if (m_topicList.isEmpty()) {
+        // A mode whose pages are still to come shows the positions of its charts.
+        QString html;
+        if (s.ProgMode == 2 && s.BoyPlanets && s.GalPlanets)
+            html = summaryOf(*s.BoyPlanets) + summaryOf(*s.GalPlanets);
+        else if (s.CurPlanets)
+            html = summaryOf(*s.CurPlanets);
+        m_summary->setHtml(html);
+        m_centre->setCurrentWidget(m_summary);
+        setWindowTitle(QStringLiteral("Orbanta"));
+        return;
+    }
+    m_centre->setCurrentWidget(m_pageScroll);
+    SelectTopic(0);
 }
 
 void mdiMother::ShowEntryScreen()
 {
+    UnloadPages();
     Session().ReleaseCharts();
     m_tools->setVisible(false);
     m_yearBar->setVisible(false);
+    bBar->setVisible(false);
+    m_navigate->menuAction()->setVisible(false);
     m_stack->setCurrentWidget(m_login);
     setWindowTitle(QStringLiteral("Orbanta-Entry Screen"));
 }
@@ -176,6 +465,7 @@ void mdiMother::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    UnloadPages();
     Session().ReleaseCharts();
     event->accept();
 }

@@ -1,15 +1,26 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 // The main window: menus, tool bar, status bar, the name strip, and the area that shows the
-// entry screen or the session's topics.
+// entry screen or the session's topics. After Generate one topic page shows at a time; the
+// topic list, the tree, the navigation bar, the Navigate menu and Next/Previous all lead to the
+// same current topic, the list's index.
+
+#include "output/TopicList.h"
 
 #include <QComboBox>
+#include <QHash>
 #include <QLabel>
 #include <QMainWindow>
 #include <QStackedWidget>
 #include <QTextBrowser>
 
 class frmLogin;
+class BottomBar;
+class TopicPage;
+class QTreeWidget;
+class QScrollArea;
+class QSplitter;
+class QMenu;
 
 class mdiMother : public QMainWindow
 {
@@ -18,15 +29,43 @@ public:
     explicit mdiMother(QWidget *parent = nullptr);
 
     frmLogin *login() const { return m_login; }
-    // Back to the entry screen: the session's charts are released, the fields keep their contents.
+    // Back to the entry screen: the pages are unloaded and the session's charts released; the
+    // fields keep their contents.
     void ShowEntryScreen();
-    // After Generate: the name strip and the session area.
+    // After Generate: the name strip, the topic list of the mode and its first topic.
     void StartSession();
     // The year list of the annual reading: the birth year and the 99 after it.
     void FillYearList(int birthYear);
     QComboBox *cmbYearList() const { return m_years; }
     // When false, closing asks nothing (tests).
     static void setAskOnExit(bool ask);
+
+    // Topic navigation.
+    void AddTopic(const QString &caption, const QString &shortName);
+    void BuildTopicList(int progMode);
+    void SelectTopic(int index);
+    void ShowTopic(int index);
+    // Releases every loaded page; the current topic is shown again with fresh pages.
+    void UnloadPages();
+    void ToggleSideList();
+    // The page of the current topic, when one is shown.
+    TopicPage *activePage() const { return m_active; }
+    // A loaded page by name, or nullptr.
+    TopicPage *loadedPage(const QString &name) const { return m_pages.value(name); }
+    int loadedPageCount() const { return static_cast<int>(m_pages.size()); }
+    const QList<TopicEntry> &topics() const { return m_topicList; }
+
+    QComboBox *cmbTopic;
+    QTreeWidget *tvMap;
+    BottomBar *bBar;
+    QAction *mnuNavNext;
+    QAction *mnuNavPrev;
+    QAction *tbNext;
+    QAction *tbPrevious;
+    QAction *tbTopicMap;
+    QMenu *mnuHorNav;
+    QMenu *mnuVarNav;
+    QMenu *mnuMarNav;
 
 Q_SIGNALS:
     void settingsRequested(int page);
@@ -38,12 +77,24 @@ protected:
 
 private:
     void buildMenus();
+    void buildNavigateMenus();
+    void cmbTopic_Click(int index);
+    void step(int by);
     QStackedWidget *m_stack;
     frmLogin *m_login;
     QWidget *m_sessionPage;
     QLabel *m_nameStrip;
     QTextBrowser *m_summary;
+    QSplitter *m_split;
+    QWidget *m_sidePanel;
+    QStackedWidget *m_centre;
+    QScrollArea *m_pageScroll;
+    QStackedWidget *m_pageStack;
     QToolBar *m_tools;
     QToolBar *m_yearBar;
     QComboBox *m_years;
+    QMenu *m_navigate;
+    QList<TopicEntry> m_topicList;
+    QHash<QString, TopicPage *> m_pages;
+    TopicPage *m_active = nullptr;
 };

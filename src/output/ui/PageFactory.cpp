@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// The pages built into the program, by name.
+#include "output/ui/TopicPage.h"
+
+#include "sky/pages/frmPage1.h"
+#include "sky/pages/frmPage2.h"
+#include "sky/pages/frmSodash.h"
+#include "strength/pages/frmBhav.h"
+
+TopicPage *CreateTopicPage(const QString &name, QWidget *parent)
+{
+    if (name == QLatin1String("frmPage1"))
+        return new frmPage1(parent);
+    if (name == QLatin1String("frmPage2"))
+        return new frmPage2(parent);
+    if (name == QLatin1String("frmSodash"))
+        return new frmSodash(parent);
+    if (name == QLatin1String("frmBhav"))
+        return new frmBhav(parent);
+    return nullptr;
+}
