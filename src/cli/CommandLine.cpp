@@ -380,7 +380,10 @@ void writeTable(const clsPlanets &chart, QTextStream &out)
     }
 }
 
-int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
+} // namespace
+
+int RunWithChart(const QStringList &args, QTextStream &out, QTextStream &err, const QList<QCommandLineOption> &extra,
+                 const QString &usage, const ChartAction &action)
 {
     QCommandLineParser p;
     p.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
@@ -397,21 +400,22 @@ int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
         {QStringLiteral("ayanamsa"), QStringLiteral("Ayanamsa choice 1..15."), QStringLiteral("N")},
         {QStringLiteral("node"), QStringLiteral("Rahu and Ketu: mean or true."), QStringLiteral("mean|true")},
         {QStringLiteral("vakya"), QStringLiteral("Cast by the traditional Vakya method.")},
-        {QStringLiteral("json"), QStringLiteral("Print one JSON object.")},
         {QStringLiteral("help"), QStringLiteral("Show this help.")},
     });
+    p.addOptions(extra);
     if (!p.parse(QStringList{QStringLiteral("orbanta")} + args)) {
-        err << p.errorText() << '\n' << kUsage;
+        err << p.errorText() << '\n' << usage;
         return 2;
     }
     if (p.isSet(QStringLiteral("help"))) {
-        out << kUsage;
+        out << usage;
         return 0;
     }
     if (!p.positionalArguments().isEmpty()) {
-        err << "Unexpected argument: " << p.positionalArguments().first() << '\n' << kUsage;
+        err << "Unexpected argument: " << p.positionalArguments().first() << '\n' << usage;
         return 2;
     }
+    int status = 0;
     try {
         const Birth birth = readBirth(p);
         applyOverrides(p);
@@ -422,14 +426,11 @@ int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
         ScopedMessageSink scopedSink(&sink);
         QSqlDatabase textDb = openEnglish();
         {
-            clsPlanets chart;
-            chart.setTextDB(textDb, QSqlDatabase());
-            fillPerson(birth, chart.Person());
-            chart.Calculate();
-            if (p.isSet(QStringLiteral("json")))
-                out << QJsonDocument(chartJson(chart)).toJson(QJsonDocument::Compact) << '\n';
-            else
-                writeTable(chart, out);
+            auto chart = std::make_unique<clsPlanets>();
+            chart->setTextDB(textDb, QSqlDatabase());
+            fillPerson(birth, chart->Person());
+            chart->Calculate();
+            status = action(p, chart, textDb);
         }
         CloseTextDB(textDb);
     } catch (const InputError &e) {
@@ -442,14 +443,27 @@ int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
         return 1;
     }
     AppSettings::clearOverrides();
-    return 0;
+    return status;
+}
+
+namespace {
+int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
+{
+    return RunWithChart(args, out, err, {{QStringLiteral("json"), QStringLiteral("Print one JSON object.")}}, kUsage,
+                        [&out](const QCommandLineParser &p, std::unique_ptr<clsPlanets> &chart, QSqlDatabase &) {
+                            if (p.isSet(QStringLiteral("json")))
+                                out << QJsonDocument(chartJson(*chart)).toJson(QJsonDocument::Compact) << '\n';
+                            else
+                                writeTable(*chart, out);
+                            return 0;
+                        });
 }
 
 } // namespace
 
 bool IsCommandLineMode(const QStringList &args)
 {
-    return !args.isEmpty() && (args.first() == QLatin1String("chart"));
+    return !args.isEmpty() && (args.first() == QLatin1String("chart") || args.first() == QLatin1String("pdf"));
 }
 
 int RunCommandLine(const QStringList &args, QTextStream &out, QTextStream &err)

@@ -33,7 +33,7 @@ void setBack(QLabel *l, const QColor &c)
 }
 } // namespace
 
-TopicPage::TopicPage(const QString &name, QWidget *parent) : QWidget(parent)
+TopicPage::TopicPage(const QString &name, QWidget *parent, bool framed) : QWidget(parent), m_framed(framed)
 {
     setObjectName(name);
     setFixedSize(kWidth, kHeight);
@@ -48,11 +48,16 @@ TopicPage::TopicPage(const QString &name, QWidget *parent) : QWidget(parent)
 
     lblTitle = addLabel(QRect(kMargin, 12, kWidth - 2 * kMargin, 34), QString(), Heading, Qt::AlignCenter);
     lblTitle->setObjectName(QStringLiteral("lblTitle"));
+    lblPageNo = addLabel(QRect(kWidth - kMargin - 80, kFootY + 4, 80, 22), QString(), Small, Qt::AlignRight | Qt::AlignVCenter);
+    lblPageNo->setObjectName(QStringLiteral("lblPageNo"));
+    if (!framed) {
+        lblTitle->hide();
+        lblPageNo->hide();
+        return;
+    }
     auto *top = addLine(QPointF(kMargin, 50), QPointF(kWidth - kMargin, 50), 1.5);
     top->setObjectName(QStringLiteral("linTop"));
     addLine(QPointF(kMargin, kFootY), QPointF(kWidth - kMargin, kFootY));
-    lblPageNo = addLabel(QRect(kWidth - kMargin - 80, kFootY + 4, 80, 22), QString(), Small, Qt::AlignRight | Qt::AlignVCenter);
-    lblPageNo->setObjectName(QStringLiteral("lblPageNo"));
 }
 
 const clsPlanets &TopicPage::chart() const { return *Session().CurPlanets; }
@@ -62,6 +67,10 @@ void TopicPage::Load()
     if (m_loaded || !Session().CurPlanets)
         return;
     m_loaded = true;
+    if (!m_framed) {
+        fill();
+        return;
+    }
     // The person's name at the foot, in the colour of names.
     QLabel *name = addLabel(QRect(kMargin, kFootY + 4, 500, 22), chart().Person().Name(), SmallBold);
     name->setObjectName(QStringLiteral("lblPerName"));

@@ -25,8 +25,9 @@ public:
     // Label styles, after the style operations of the pages.
     enum Style { Heading, Body, SubHead, English, EnglishSmall, Small, SmallBold };
 
-    // name: the page's name ("frmPage1"); the page of the session's chart.
-    explicit TopicPage(const QString &name, QWidget *parent = nullptr);
+    // name: the page's name ("frmPage1"); the page of the session's chart. A framed page has a
+    // title, rules and a foot with the name and page number; a text page has none of them shown.
+    explicit TopicPage(const QString &name, QWidget *parent = nullptr, bool framed = true);
 
     // Fills the page from the chart, once.
     void Load();
@@ -67,6 +68,7 @@ protected:
 
 private:
     bool m_loaded = false;
+    bool m_framed = true;
 };
 
 // The topic pages built into the program, by name; nullptr for a page not built yet.

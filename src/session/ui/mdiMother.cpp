@@ -2,6 +2,11 @@
 #include "session/ui/mdiMother.h"
 
 #include "output/ui/BottomBar.h"
+#include "output/ui/PageCache.h"
+#include "output/ui/PageOutput.h"
+#include "output/ui/TextPage.h"
+#include "output/ui/frmPrint.h"
+#include "output/ui/frmStatus.h"
 #include "output/ui/TopicPage.h"
 #include "sky/pages/frmSodash.h"
 
@@ -16,6 +21,10 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHeaderView>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProgressBar>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStyle>
@@ -57,6 +66,8 @@ QString summaryOf(const clsPlanets &c)
 
 void mdiMother::setAskOnExit(bool ask) { g_askOnExit = ask; }
 
+mdiMother::~mdiMother() = default;
+
 namespace {
 QVariant viewSetting(const char *key, bool def)
 {
@@ -91,6 +102,7 @@ mdiMother::mdiMother(QWidget *parent) : QMainWindow(parent)
     side->addWidget(tvMap);
     m_pageStack = new QStackedWidget;
     m_pageStack->setFixedSize(TopicPage::kWidth, TopicPage::kHeight);
+    m_pages = std::make_unique<PageCache>(m_pageStack);
     m_pageScroll = new QScrollArea;
     m_pageScroll->setObjectName(QStringLiteral("pageArea"));
     m_pageScroll->setWidget(m_pageStack);
@@ -149,6 +161,17 @@ void mdiMother::buildMenus()
     QMenu *file = menuBar()->addMenu(QStringLiteral("&File"));
     QAction *entry = file->addAction(QStringLiteral("&Entry Screen"), this, &mdiMother::ShowEntryScreen);
     entry->setObjectName(QStringLiteral("mnuEntry"));
+    file->addSeparator();
+    m_outputActions = {
+        file->addAction(QStringLiteral("&Print Horoscope..."), this, &mdiMother::PrintIt),
+        file->addAction(QStringLiteral("Print This &Topic"), this, &mdiMother::PrintCurrentTopic),
+        file->addAction(QStringLiteral("Export &PDF..."), this, &mdiMother::ExportPDF),
+    };
+    m_outputActions[0]->setObjectName(QStringLiteral("mnuPrint"));
+    m_outputActions[1]->setObjectName(QStringLiteral("mnuPrintTopic"));
+    m_outputActions[2]->setObjectName(QStringLiteral("mnuExportPDF"));
+    for (QAction *a : m_outputActions)
+        a->setEnabled(false);
     file->addSeparator();
     file->addAction(QStringLiteral("E&xit"), this, &QWidget::close);
 
@@ -227,6 +250,11 @@ void mdiMother::buildMenus()
     tbTopicMap = tool("TopicMap", "Topics", QStyle::SP_FileDialogListView);
     tbTopicMap->setCheckable(true);
     connect(tbTopicMap, &QAction::triggered, this, [this] { ToggleSideList(); });
+    m_tools->addSeparator();
+    connect(tool("PrintTopic", "Print Topic", QStyle::SP_FileDialogDetailedView), &QAction::triggered, this,
+            &mdiMother::PrintCurrentTopic);
+    connect(tool("Print", "Print", QStyle::SP_DialogSaveButton), &QAction::triggered, this, &mdiMother::PrintIt);
+    connect(tool("PDFExport", "PDF", QStyle::SP_DriveFDIcon), &QAction::triggered, this, &mdiMother::ExportPDF);
     m_tools->addSeparator();
     m_tools->addWidget(new QLabel(QStringLiteral(" Topic ")));
     m_tools->addWidget(cmbTopic);
@@ -367,13 +395,7 @@ void mdiMother::ShowTopic(int index)
     const int mode = Session().ProgMode;
     if ((mode == 1 || mode == 2 || mode == 4) && index >= 0 && index < m_topicList.size()) {
         const TopicEntry &t = m_topicList[index];
-        TopicPage *page = m_pages.value(t.Page);
-        if (!page && (page = CreateTopicPage(t.Page))) {
-            m_pages.insert(t.Page, page);
-            m_pageStack->addWidget(page);
-            page->Load();
-        }
-        if (page) {
+        if (TopicPage *page = m_pages->load(t.Page)) {
             if (auto *sodash = qobject_cast<frmSodash *>(page))
                 sodash->MakePage(t.PageArg);
             m_pageStack->setCurrentWidget(page);
@@ -388,12 +410,11 @@ void mdiMother::ShowTopic(int index)
 void mdiMother::UnloadPages()
 {
     m_active = nullptr;
-    for (TopicPage *page : std::as_const(m_pages)) {
-        m_pageStack->removeWidget(page);
-        delete page;
-    }
-    m_pages.clear();
+    m_pages->UnloadPages();
 }
+
+TopicPage *mdiMother::loadedPage(const QString &name) const { return m_pages->loaded(name); }
+int mdiMother::loadedPageCount() const { return m_pages->count(); }
 
 void mdiMother::ToggleSideList()
 {
@@ -401,6 +422,91 @@ void mdiMother::ToggleSideList()
     m_sidePanel->setVisible(show);
     AppSettings::setValue(QStringLiteral("Settings"), QStringLiteral("TopicListVis"), show);
     tbTopicMap->setChecked(show);
+}
+
+void mdiMother::PrintIt()
+{
+    if (m_topicList.isEmpty())
+        return;
+    m_active = nullptr;
+    {
+        frmPrint dialog(*m_pages, this);
+        dialog.setMode(1);
+        dialog.exec();
+    }
+    UnloadPages();
+    ShowTopic(cmbTopic->currentIndex());
+}
+
+void mdiMother::ExportPDF()
+{
+    if (m_topicList.isEmpty())
+        return;
+    m_active = nullptr;
+    {
+        frmPrint dialog(*m_pages, this);
+        dialog.setMode(3);
+        dialog.exec();
+    }
+    UnloadPages();
+    ShowTopic(cmbTopic->currentIndex());
+}
+
+void mdiMother::PrintCurrentTopic()
+{
+    if (!m_active)
+        return;
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QPainter painter;
+    if (!painter.begin(&printer)) {
+        QMessageBox::warning(this, QStringLiteral("Printer Error"),
+                             QStringLiteral("Printer Performed an Invalid Operation. Please Check if Printer is Connected or Has Enough Paper."));
+        return;
+    }
+    painter.scale(printer.resolution() / 96.0, printer.resolution() / 96.0);
+    Output().PrintAbort = false;
+    Output().PageCounter = 1;
+    PageOutput out(&printer, &painter, nullptr);
+    if (auto *text = qobject_cast<TextPage *>(m_active))
+        out.OutputTextPage(*text);
+    else
+        out.OutputPage(*m_active);
+    painter.end();
+    // The page shows its screen number again.
+    cmbTopic_Click(cmbTopic->currentIndex());
+}
+
+bool mdiMother::ExportHoroscope(const QString &file)
+{
+    clsPDFExporter pdf;
+    pdf.filename = file;
+    if (!pdf.StartExport())
+        return false;
+    frmStatus status(this);
+    status.PDFStatus();
+    status.show();
+    PageOutput out(nullptr, nullptr, &pdf);
+    const int count = cmbTopic->count();
+    for (int index = 0; index < count; ++index) {
+        ++Output().PageCounter;
+        SelectTopic(index);
+        if (m_active) {
+            if (auto *text = qobject_cast<TextPage *>(m_active))
+                out.OutputTextPage(*text);
+            else
+                out.OutputPage(*m_active);
+        }
+        const int percent = 100 * index / qMax(1, count);
+        if (percent <= 100 && status.Proggy->value() < 100)
+            status.Proggy->setValue(percent);
+    }
+    const bool ok = pdf.FinishFile();
+    UnloadPages();
+    ShowTopic(cmbTopic->currentIndex());
+    return ok;
 }
 
 void mdiMother::FillYearList(int birthYear)
@@ -442,6 +548,8 @@ void mdiMother::StartSession()
         return;
     }
     m_centre->setCurrentWidget(m_pageScroll);
+    for (QAction *a : m_outputActions)
+        a->setEnabled(true);
     SelectTopic(0);
 }
 
@@ -453,6 +561,8 @@ void mdiMother::ShowEntryScreen()
     m_yearBar->setVisible(false);
     bBar->setVisible(false);
     m_navigate->menuAction()->setVisible(false);
+    for (QAction *a : m_outputActions)
+        a->setEnabled(false);
     m_stack->setCurrentWidget(m_login);
     setWindowTitle(QStringLiteral("Orbanta-Entry Screen"));
 }

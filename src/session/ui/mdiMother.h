@@ -14,9 +14,12 @@
 #include <QStackedWidget>
 #include <QTextBrowser>
 
+#include <memory>
+
 class frmLogin;
 class BottomBar;
 class TopicPage;
+class PageCache;
 class QTreeWidget;
 class QScrollArea;
 class QSplitter;
@@ -27,6 +30,7 @@ class mdiMother : public QMainWindow
     Q_OBJECT
 public:
     explicit mdiMother(QWidget *parent = nullptr);
+    ~mdiMother() override;
 
     frmLogin *login() const { return m_login; }
     // Back to the entry screen: the pages are unloaded and the session's charts released; the
@@ -48,11 +52,20 @@ public:
     // Releases every loaded page; the current topic is shown again with fresh pages.
     void UnloadPages();
     void ToggleSideList();
+    // The print screen over the session's topics; "Export PDF" is the same screen in its PDF mode.
+    void PrintIt();
+    void ExportPDF();
+    // The page on view alone, on the printer.
+    void PrintCurrentTopic();
+    // Every topic of the list into file, without the selection screen. True when written.
+    bool ExportHoroscope(const QString &file);
     // The page of the current topic, when one is shown.
     TopicPage *activePage() const { return m_active; }
     // A loaded page by name, or nullptr.
-    TopicPage *loadedPage(const QString &name) const { return m_pages.value(name); }
-    int loadedPageCount() const { return static_cast<int>(m_pages.size()); }
+    TopicPage *loadedPage(const QString &name) const;
+    int loadedPageCount() const;
+    // The session's pages, as printing and export load them.
+    PageCache &pages() { return *m_pages; }
     const QList<TopicEntry> &topics() const { return m_topicList; }
 
     QComboBox *cmbTopic;
@@ -95,6 +108,7 @@ private:
     QComboBox *m_years;
     QMenu *m_navigate;
     QList<TopicEntry> m_topicList;
-    QHash<QString, TopicPage *> m_pages;
+    std::unique_ptr<PageCache> m_pages;
     TopicPage *m_active = nullptr;
+    QList<QAction *> m_outputActions;
 };

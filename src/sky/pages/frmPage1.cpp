@@ -10,7 +10,7 @@
 
 namespace {
 constexpr int kLeftX = 30, kRightX = 400;
-constexpr int kLabelW = 130, kValueW = 200;
+constexpr int kLabelW = 150, kValueW = 190;
 } // namespace
 
 void frmPage1::fill()

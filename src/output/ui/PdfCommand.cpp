@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "output/ui/PdfCommand.h"
+
+#include "cli/CommandLine.h"
+#include "output/PrintTree.h"
+#include "output/ui/PageCache.h"
+#include "output/ui/PageOutput.h"
+#include "output/ui/PrintRun.h"
+#include "session/Session.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+const QString kPdfUsage = QStringLiteral(
+    "Usage: orbanta pdf <the birth options of 'orbanta chart'> --out FILE [--topics KEY,KEY...]\n"
+    "Topics are the keys of the print tree; all topics by default. Keys: %1\n");
+} // namespace
+
+int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err)
+{
+    const QStringList keys = PrintKeys(1, false);
+    const QString usage = kPdfUsage.arg(keys.join(QLatin1Char(',')));
+    const QList<QCommandLineOption> extra{
+        {QStringLiteral("out"), QStringLiteral("The PDF file to write."), QStringLiteral("FILE")},
+        {QStringLiteral("topics"), QStringLiteral("Print-tree keys, comma separated."), QStringLiteral("KEYS")},
+    };
+    return RunWithChart(args, out, err, extra, usage, [&](const QCommandLineParser &p, std::unique_ptr<clsPlanets> &chart, QSqlDatabase &db) {
+        const QString file = p.value(QStringLiteral("out"));
+        if (file.isEmpty()) {
+            err << "Missing --out FILE.\n" << usage;
+            return 2;
+        }
+        QSet<QString> ticked(keys.begin(), keys.end());
+        if (p.isSet(QStringLiteral("topics"))) {
+            ticked.clear();
+            for (const QString &k : p.value(QStringLiteral("topics")).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+                if (!keys.contains(k.trimmed())) {
+                    err << "Unknown topic key: " << k.trimmed() << '\n' << usage;
+                    return 2;
+                }
+                ticked.insert(k.trimmed());
+            }
+        }
+        SessionGlobals &s = Session();
+        s.ProgMode = 1;
+        s.TextDB = db;
+        s.CurPlanets = std::move(chart);
+        clsPDFExporter pdf;
+        pdf.filename = file;
+        int status = 0;
+        if (!pdf.StartExport()) {
+            err << "Cannot write " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
+            status = 1;
+        } else {
+            Output().PrintAbort = false;
+            Output().PageCounter = 1;
+            PageCache pages;
+            PageOutput output(nullptr, nullptr, &pdf);
+            const QList<PrintStep> steps = SelectedSteps(1, false, ticked);
+            const int drawn = WalkSteps(steps, pages, output);
+            pages.UnloadPages();
+            if (!pdf.FinishFile()) {
+                err << "Cannot complete " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
+                status = 1;
+            } else {
+                out << "Wrote " << drawn << " topics, " << pdf.surface().PageCount() << " pages to " << file << '\n';
+            }
+        }
+        s.ReleaseCharts();
+        s.TextDB = QSqlDatabase();
+        return status;
+    });
+}

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+// "orbanta pdf <birth> --out FILE [--topics KEY,KEY...]": the horoscope of the chosen print-tree
+// keys (all by default) written to a PDF file, without a display.
+
+#include <QStringList>
+#include <QTextStream>
+
+// Needs a QApplication (the offscreen platform serves). Returns the exit status.
+int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err);

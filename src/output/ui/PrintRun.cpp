@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "output/ui/PrintRun.h"
+
+#include "output/ui/PageCache.h"
+#include "output/ui/PageOutput.h"
+#include "output/ui/TextPage.h"
+#include "sky/pages/frmSodash.h"
+
+#include <QCoreApplication>
+
+int WalkSteps(const QList<PrintStep> &steps, PageCache &pages, PageOutput &out, const PrintRunHooks &hooks)
+{
+    int drawn = 0;
+    for (int i = 0; i < steps.size(); ++i) {
+        const PrintStep &step = steps[i];
+        TopicPage *page = pages.load(step.Page);
+        if (page) {
+            if (step.MakePage > 0)
+                if (auto *sodash = qobject_cast<frmSodash *>(page))
+                    sodash->MakePage(step.MakePage);
+            if (step.Kind == StepKind::Text) {
+                if (auto *text = qobject_cast<TextPage *>(page))
+                    out.OutputTextPage(*text);
+            } else {
+                out.OutputPage(*page);
+                ++Output().PageCounter;
+            }
+            ++drawn;
+            if (step.Key == QLatin1String("FrontPage") && out.Mode() == 1 && hooks.frontPageDone)
+                hooks.frontPageDone();
+        }
+        if (hooks.progress)
+            hooks.progress(static_cast<int>(100.0 * (i + 1) / steps.size()));
+        QCoreApplication::processEvents();
+    }
+    return drawn;
+}
