@@ -218,13 +218,18 @@ std::optional<PersonRow> PersonStore::FindPerson(const QString &name) const
     return std::nullopt;
 }
 
+QString LikePrefix(const QString &typed)
+{
+    QString p = typed;
+    p.replace(QLatin1Char('\\'), QStringLiteral("\\\\")).replace(QLatin1Char('%'), QStringLiteral("\\%")).replace(QLatin1Char('_'), QStringLiteral("\\_"));
+    return p + QLatin1Char('%');
+}
+
 std::optional<PersonRow> PersonStore::FindByPrefix(const QString &typed) const
 {
-    QString pattern = typed;
-    pattern.replace(QLatin1Char('\\'), QStringLiteral("\\\\")).replace(QLatin1Char('%'), QStringLiteral("\\%")).replace(QLatin1Char('_'), QStringLiteral("\\_"));
     QSqlQuery q(m_db);
     q.prepare(QStringLiteral("SELECT * FROM qryPersonName WHERE Name LIKE ? ESCAPE '\\' LIMIT 1"));
-    q.addBindValue(pattern + QLatin1Char('%'));
+    q.addBindValue(LikePrefix(typed));
     if (q.exec() && q.next())
         return rowFrom(q.record());
     return std::nullopt;

@@ -45,6 +45,10 @@ struct StoreResult
     int rows = 0; // rows written or read
 };
 
+// A LIKE pattern for names that begin with typed: "\", "%" and "_" are escaped with "\", so the
+// query needs ESCAPE '\'; a "%" follows.
+QString LikePrefix(const QString &typed);
+
 class PersonStore
 {
 public:

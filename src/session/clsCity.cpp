@@ -42,8 +42,8 @@ clsCity::clsCity(const QSqlDatabase &db) : m_db(db)
 
 bool clsCity::Requery()
 {
-    m_rows.clear();
-    m_pos = 0;
+    m_cur.rows.clear();
+    m_cur.pos = 0;
     QSqlQuery q(m_db);
     q.setForwardOnly(true);
     if (!q.exec(QStringLiteral("SELECT rowid, ") + kColumns + QStringLiteral(" FROM City ORDER BY rowid")))
@@ -54,14 +54,14 @@ bool clsCity::Requery()
         r.f = {q.value(1).toString(), q.value(2).toString(), q.value(3).toString(), q.value(4).toString(),
                q.value(5).toString(), q.value(6).toString(), q.value(7).toString()};
         r.TimeZone = q.value(8).toString();
-        m_rows.push_back(std::move(r));
+        m_cur.rows.push_back(std::move(r));
     }
     return true;
 }
 
 const clsCity::Row *clsCity::current() const
 {
-    return m_pos >= 0 && m_pos < CityCount() ? &m_rows[static_cast<size_t>(m_pos)] : nullptr;
+    return m_cur.pos >= 0 && m_cur.pos < CityCount() ? &m_cur.rows[static_cast<size_t>(m_cur.pos)] : nullptr;
 }
 
 QString clsCity::Name() const
@@ -70,7 +70,7 @@ QString clsCity::Name() const
 }
 int clsCity::CityCount() const
 {
-    return static_cast<int>(m_rows.size());
+    return m_cur.count();
 }
 QString clsCity::Lat() const
 {
@@ -98,11 +98,11 @@ QString clsCity::GMTDIFF() const
 }
 int clsCity::Position() const
 {
-    return m_pos;
+    return m_cur.pos;
 }
 bool clsCity::AtEnd() const
 {
-    return m_pos >= CityCount();
+    return m_cur.atEnd();
 }
 CityFields clsCity::Fields() const
 {
@@ -114,7 +114,7 @@ AtlasEditResult clsCity::setColumn(const char *column, const QString &value)
     const Row *r = current();
     if (!r)
         return AtlasEditResult::Fail(QStringLiteral("Orbanta"), QStringLiteral("Please select a city from the list."));
-    const int pos = m_pos;
+    const int pos = m_cur.pos;
     AtlasEditResult res =
         writeOnce(m_db, QStringLiteral("UPDATE City SET %1 = ? WHERE rowid = ?").arg(QLatin1String(column)), {value, r->id});
     Requery();
@@ -133,36 +133,29 @@ AtlasEditResult clsCity::setLongi(const QString &longi)
 
 QStringList clsCity::FillInCombo() const
 {
-    QStringList names;
-    names.reserve(CityCount());
-    for (int i = std::max(m_pos, 0); i < CityCount(); ++i)
-        names << m_rows[static_cast<size_t>(i)].f.City;
-    return names;
+    return m_cur.namesFromHere([](const Row &r) { return r.f.City; });
 }
 
 void clsCity::MoveTo(int n)
 {
-    m_pos = std::clamp(n, 0, CityCount());
+    m_cur.moveTo(n);
 }
 void clsCity::MoveFirst()
 {
-    m_pos = 0;
+    m_cur.moveFirst();
 }
 void clsCity::MoveLast()
 {
-    m_pos = std::max(CityCount() - 1, 0);
+    m_cur.moveLast();
 }
 void clsCity::MoveNext()
 {
-    m_pos = std::min(m_pos + 1, CityCount());
+    m_cur.moveNext();
 }
 
 int clsCity::FindFirst(const QString &name) const
 {
-    for (int i = 0; i < CityCount(); ++i)
-        if (m_rows[static_cast<size_t>(i)].f.City.compare(name, Qt::CaseInsensitive) == 0)
-            return i;
-    return -1;
+    return m_cur.findFirst(name, [](const Row &r) { return r.f.City; });
 }
 
 QString clsCity::BoxToColumn(const QString &box)
@@ -224,7 +217,7 @@ AtlasEditResult clsCity::ChangeCity(int row, const CityFields &f)
     AtlasEditResult r = checkFields(f, &zone);
     if (!r.ok)
         return r;
-    const Row &old = m_rows[static_cast<size_t>(row)];
+    const Row &old = m_cur.rows[static_cast<size_t>(row)];
     // The place keeps its own zone unless it moves to another country.
     if (old.f.Country.compare(f.Country, Qt::CaseInsensitive) == 0 && !old.TimeZone.isEmpty())
         zone = old.TimeZone;
@@ -242,7 +235,7 @@ AtlasEditResult clsCity::DeleteRow(int row)
     if (row < 0 || row >= CityCount())
         return {};
     AtlasEditResult r =
-        writeOnce(m_db, QStringLiteral("DELETE FROM City WHERE rowid = ?"), {m_rows[static_cast<size_t>(row)].id});
+        writeOnce(m_db, QStringLiteral("DELETE FROM City WHERE rowid = ?"), {m_cur.rows[static_cast<size_t>(row)].id});
     Requery();
     return r;
 }

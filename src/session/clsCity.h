@@ -5,6 +5,7 @@
 // transaction and names go into the queries as parameters.
 
 #include "session/clsCountry.h"
+#include "session/RowCursor.h"
 
 #include <QSqlDatabase>
 #include <QString>
@@ -86,6 +87,5 @@ private:
     AtlasEditResult setColumn(const char *column, const QString &value);
 
     QSqlDatabase m_db;
-    std::vector<Row> m_rows;
-    int m_pos = 0;
+    RowCursor<Row> m_cur;
 };

@@ -39,19 +39,19 @@ clsCountry::clsCountry(const QSqlDatabase &db) : m_db(db)
 
 bool clsCountry::Requery()
 {
-    m_rows.clear();
-    m_pos = 0;
+    m_cur.rows.clear();
+    m_cur.pos = 0;
     QSqlQuery q(m_db);
     if (!q.exec(QStringLiteral("SELECT rowid, Name, GMTDIF, TimeZone FROM Country ORDER BY rowid")))
         return false;
     while (q.next())
-        m_rows.push_back({q.value(0).toLongLong(), q.value(1).toString(), q.value(2).toString(), q.value(3).toString()});
+        m_cur.rows.push_back({q.value(0).toLongLong(), q.value(1).toString(), q.value(2).toString(), q.value(3).toString()});
     return true;
 }
 
 const clsCountry::Row *clsCountry::current() const
 {
-    return m_pos >= 0 && m_pos < Count() ? &m_rows[static_cast<size_t>(m_pos)] : nullptr;
+    return m_cur.pos >= 0 && m_cur.pos < Count() ? &m_cur.rows[static_cast<size_t>(m_cur.pos)] : nullptr;
 }
 
 QString clsCountry::Name() const
@@ -68,48 +68,42 @@ QString clsCountry::TimeZone() const
 }
 int clsCountry::Count() const
 {
-    return static_cast<int>(m_rows.size());
+    return m_cur.count();
 }
 int clsCountry::Position() const
 {
-    return m_pos;
+    return m_cur.pos;
 }
 bool clsCountry::AtEnd() const
 {
-    return m_pos >= Count();
+    return m_cur.atEnd();
 }
 
 QStringList clsCountry::FillInCombo() const
 {
-    QStringList names;
-    for (int i = std::max(m_pos, 0); i < Count(); ++i)
-        names << m_rows[static_cast<size_t>(i)].Name;
-    return names;
+    return m_cur.namesFromHere([](const Row &r) { return r.Name; });
 }
 
 void clsCountry::MoveTo(int n)
 {
-    m_pos = std::clamp(n, 0, Count());
+    m_cur.moveTo(n);
 }
 void clsCountry::MoveFirst()
 {
-    m_pos = 0;
+    m_cur.moveFirst();
 }
 void clsCountry::MoveLast()
 {
-    m_pos = std::max(Count() - 1, 0);
+    m_cur.moveLast();
 }
 void clsCountry::MoveNext()
 {
-    m_pos = std::min(m_pos + 1, Count());
+    m_cur.moveNext();
 }
 
 int clsCountry::FindFirst(const QString &name) const
 {
-    for (int i = 0; i < Count(); ++i)
-        if (m_rows[static_cast<size_t>(i)].Name.compare(name, Qt::CaseInsensitive) == 0)
-            return i;
-    return -1;
+    return m_cur.findFirst(name, [](const Row &r) { return r.Name; });
 }
 
 bool clsCountry::Exists(const QString &name) const
@@ -142,7 +136,7 @@ AtlasEditResult clsCountry::ModifyCountry(int row, const QString &name, const QS
     if (name.trimmed().isEmpty())
         return AtlasEditResult::Fail(QStringLiteral("Orbanta"), QStringLiteral("Please enter the name of the country."));
     AtlasEditResult r = writeOnce(m_db, QStringLiteral("UPDATE Country SET Name = ?, GMTDIF = ? WHERE rowid = ?"),
-                                  {name.trimmed(), gmt, m_rows[static_cast<size_t>(row)].id});
+                                  {name.trimmed(), gmt, m_cur.rows[static_cast<size_t>(row)].id});
     Requery();
     return r;
 }
@@ -153,7 +147,7 @@ AtlasEditResult clsCountry::DeleteCountry(const QString &name)
     if (row < 0)
         return {};
     AtlasEditResult r =
-        writeOnce(m_db, QStringLiteral("DELETE FROM Country WHERE rowid = ?"), {m_rows[static_cast<size_t>(row)].id});
+        writeOnce(m_db, QStringLiteral("DELETE FROM Country WHERE rowid = ?"), {m_cur.rows[static_cast<size_t>(row)].id});
     Requery();
     return r;
 }

@@ -4,6 +4,8 @@
 // in table order, with the row operations of the atlas editor. Every write is one transaction
 // and names go into the queries as parameters.
 
+#include "session/RowCursor.h"
+
 #include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
@@ -66,6 +68,5 @@ private:
     const Row *current() const;
 
     QSqlDatabase m_db;
-    std::vector<Row> m_rows;
-    int m_pos = 0;
+    RowCursor<Row> m_cur;
 };

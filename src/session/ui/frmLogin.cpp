@@ -25,13 +25,6 @@
 namespace {
 frmLogin::MessageHandler g_messageHandler;
 
-QString likePrefix(const QString &typed)
-{
-    QString p = typed;
-    p.replace(QLatin1Char('\\'), QStringLiteral("\\\\")).replace(QLatin1Char('%'), QStringLiteral("\\%")).replace(QLatin1Char('_'), QStringLiteral("\\_"));
-    return p + QLatin1Char('%');
-}
-
 // The program's own INI file of the installation's choices (language, mode), in the user's folder.
 QSettings gendat()
 {
@@ -340,7 +333,7 @@ void frmLogin::countryTyped(BirthPanel *p, const QString &text, bool picked)
     QSqlQuery q(Session().RecDB);
     q.prepare(picked ? QStringLiteral("SELECT Name, GMTDIF FROM Country WHERE Name = ? LIMIT 1")
                      : QStringLiteral("SELECT Name, GMTDIF FROM Country WHERE Name LIKE ? ESCAPE '\\' ORDER BY Name LIMIT 1"));
-    q.addBindValue(picked ? text : likePrefix(text));
+    q.addBindValue(picked ? text : LikePrefix(text));
     if (!q.exec() || !q.next()) {
         postText(text + QStringLiteral(" is not in database, you'll have to provide GMT Difference manually."));
         p->txtGMT->setText(QStringLiteral("+00.00"));
@@ -382,9 +375,9 @@ void frmLogin::placeTyped(BirthPanel *p, const QString &text, bool picked)
     } else {
         q.prepare(QStringLiteral("SELECT City, Lat, Longy, NOSO, EaWe, Country, GMTDIFF, TimeZone FROM City WHERE City LIKE ? ESCAPE '\\' "
                                  "AND Country LIKE ? ESCAPE '\\' ORDER BY City LIMIT 1"));
-        q.addBindValue(likePrefix(text));
+        q.addBindValue(LikePrefix(text));
     }
-    q.addBindValue(likePrefix(p->cmbCountry->currentText()));
+    q.addBindValue(LikePrefix(p->cmbCountry->currentText()));
     if (!q.exec() || !q.next()) {
         postText(text + QStringLiteral(" is not in database, you'll have to provide Longitude & Latitude manually."));
         p->txtLati->setText(QStringLiteral("000:00"));
