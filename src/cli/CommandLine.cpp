@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "cli/CommandLine.h"
 
+#include "dasha/clsDashaVimshottari.h"
+
 #include "session/AppSettings.h"
 #include "session/AtlasLookup.h"
 #include "session/DataPaths.h"
@@ -349,6 +351,12 @@ QJsonObject chartJson(const clsPlanets &chart)
         vargas.append(row);
     }
     o.insert(QStringLiteral("vargas"), vargas);
+    QJsonArray mahas;
+    for (const DashaPeriod &m : Vimshottari::Mahas(chart))
+        mahas.append(QJsonObject{{QStringLiteral("lord"), m.Lord},
+                                 {QStringLiteral("start"), m.Start.toString(QStringLiteral("dd/MM/yyyy hh:mm"))},
+                                 {QStringLiteral("years"), m.Years}});
+    o.insert(QStringLiteral("vimshottari"), mahas);
     return o;
 }
 

@@ -447,6 +447,25 @@ private:
     bool signAspectedBy(int q, int target) const;
     // ---- end of the dignity predicates ----
 
+    // ---- The Vimshottari cycle (clsPlanets_dasha.cpp) ----
+public:
+    // Years of the birth Maha still to run at birth, on the Moon of the chart and on the Moon in
+    // the KP ayanamsa.
+    double VimBalAtBirth() const;
+    double VimBalAtBirthKP() const;
+    // Lord name and years of cycle position 1..9 from the text database (rows "X1-" and "LysY1"),
+    // kept after the first read; an empty name or 0 years while the row is missing.
+    QString VimName(int position) const;
+    int VimPeriod(int position) const;
+    // Years of planet 1..9's period (0 outside), and the lord of cycle position 1..9 (0 outside).
+    static int GetVimSotPeriods(int planet);
+    static int GetVimSotPlanetLord(int position);
+
+private:
+    mutable std::array<QString, 11> m_vimName{};
+    mutable std::array<int, 11> m_vimPeriod{};
+    // ---- end of the Vimshottari cycle ----
+
     // ---- Divisional charts (clsPlanets_divisions.cpp) ----
 public:
     // Fills the divisional table from the positions 0..12; the last step of Calculate.
