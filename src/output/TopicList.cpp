@@ -75,7 +75,7 @@ inline constexpr std::array<Row, 2> kMuhurtha{{
 }};
 
 // The pages that exist so far.
-inline constexpr std::array<const char *, 4> kBuiltPages{{"frmPage1", "frmPage2", "frmSodash", "frmBhav"}};
+inline constexpr std::array<const char *, 6> kBuiltPages{{"frmPage1", "frmPage2", "frmSodash", "frmBhav", "frmVimsot", "frmPratyan"}};
 
 template <size_t N> QList<TopicEntry> build(const std::array<Row, N> &rows, size_t count, bool builtOnly)
 {

@@ -2,6 +2,7 @@
 // Topic navigation after Generate, driven as a user would: every route to a topic leaves the
 // list, the bar, the tree and the window caption in agreement, pages load once and stay.
 #include "chartdraw/ui/Kundali.h"
+#include "dasha/pages/frmVimsot.h"
 #include "output/ui/BottomBar.h"
 #include "output/ui/TopicPage.h"
 #include "session_ui/SessionWindow.h"
@@ -149,6 +150,7 @@ TEST_F(Navigation, Screenshots)
     if (out.isEmpty())
         GTEST_SKIP() << "set ORBANTA_SCREENSHOTS to a folder to write the pictures";
     QDir().mkpath(out);
+    frmPratyan::setToday(QDateTime(QDate(2026, 11, 23), QTime(0, 0), Qt::UTC));
     const char *styles[] = {"north", "east", "south"};
     for (int style = 0; style < 3; ++style) {
         AppSettings::setValue("Init", "KundStyle", style);

@@ -5,7 +5,13 @@
 #include "session/AppSettings.h"
 #include "session/clsPerson.h"
 
+#include <QString>
 #include <QTemporaryDir>
+
+#include <ostream>
+
+// Test failures show texts as text.
+inline void PrintTo(const QString &s, std::ostream *os) { *os << '"' << s.toStdString() << '"'; }
 
 // Points the settings store at a fresh temporary file for the life of the object.
 class ScopedSettingsStore

@@ -2,6 +2,7 @@
 // The pages built into the program, by name.
 #include "output/ui/TopicPage.h"
 
+#include "dasha/pages/frmVimsot.h"
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
 #include "sky/pages/frmSodash.h"
@@ -17,5 +18,9 @@ TopicPage *CreateTopicPage(const QString &name, QWidget *parent)
         return new frmSodash(parent);
     if (name == QLatin1String("frmBhav"))
         return new frmBhav(parent);
+    if (name == QLatin1String("frmVimsot"))
+        return new frmVimsot(parent);
+    if (name == QLatin1String("frmPratyan"))
+        return new frmPratyan(parent);
     return nullptr;
 }
