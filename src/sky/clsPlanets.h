@@ -447,6 +447,28 @@ private:
     bool signAspectedBy(int q, int target) const;
     // ---- end of the dignity predicates ----
 
+    // ---- Ashtakavarga tables (clsPlanets_ashtakavarga.cpp) ----
+public:
+    // Adds 1 to Ashtak of each sign marked by the twelve house flags counted from startSign.
+    void AshComp(const std::array<int, 12> &flags, int startSign) const;
+    // Builds the nine point tables into AshVarga (index = planet number, 0 the Lagna) and their
+    // sum over planets 1..8 into AshTotal; leaves Ashtak at 0.
+    void AshTable() const;
+    // The scratch tally (sign 0..12) and the finished tables (varga 0..10, sign 0..13); an index
+    // out of range throws std::out_of_range.
+    int Ashtak(int sign) const { return m_ashtak.at(static_cast<size_t>(sign)); }
+    void setAshtak(int sign, int v) const { m_ashtak.at(static_cast<size_t>(sign)) = v; }
+    int AshTotal(int sign) const { return m_ashTotal.at(static_cast<size_t>(sign)); }
+    void setAshTotal(int sign, int v) const { m_ashTotal.at(static_cast<size_t>(sign)) = v; }
+    int AshVarga(int varga, int sign) const { return m_ashVarga.at(static_cast<size_t>(varga)).at(static_cast<size_t>(sign)); }
+    void setAshVarga(int varga, int sign, int v) const { m_ashVarga.at(static_cast<size_t>(varga)).at(static_cast<size_t>(sign)) = v; }
+
+private:
+    mutable std::array<int, 13> m_ashtak{};
+    mutable std::array<int, 14> m_ashTotal{};
+    mutable std::array<std::array<int, 14>, 11> m_ashVarga{};
+    // ---- end of the Ashtakavarga tables ----
+
     // ---- The Vimshottari cycle (clsPlanets_dasha.cpp) ----
 public:
     // Years of the birth Maha still to run at birth, on the Moon of the chart and on the Moon in
