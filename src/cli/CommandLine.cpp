@@ -357,6 +357,17 @@ QJsonObject chartJson(const clsPlanets &chart)
                                  {QStringLiteral("start"), m.Start.toString(QStringLiteral("dd/MM/yyyy hh:mm"))},
                                  {QStringLiteral("years"), m.Years}});
     o.insert(QStringLiteral("vimshottari"), mahas);
+    chart.AshTable();
+    QJsonArray ashVarga, ashTotal;
+    for (int varga = 0; varga <= 8; ++varga) {
+        QJsonArray row;
+        for (int s = 1; s <= 12; ++s)
+            row.append(chart.AshVarga(varga, s));
+        ashVarga.append(row);
+    }
+    for (int s = 1; s <= 12; ++s)
+        ashTotal.append(chart.AshTotal(s));
+    o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
     return o;
 }
 

@@ -200,3 +200,9 @@ QString Two(long v)
         return QLatin1Char('-') + QStringLiteral("%1").arg(-v, 2, 10, QLatin1Char('0'));
     return QStringLiteral("%1").arg(v, 2, 10, QLatin1Char('0'));
 }
+
+QString GetRomanNumeral(int n)
+{
+    static const char *const kRoman[] = {"I", "II", "III", "IV", "V", "VI", "VII", "VIII", "IX", "X", "XI", "XII"};
+    return n >= 1 && n <= 12 ? QString::fromLatin1(kRoman[n - 1]) : QString();
+}

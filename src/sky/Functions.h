@@ -57,3 +57,6 @@ double Val(const QString &text);
 QString NumText(double v);
 // Two-digit zero-padded text of a whole number ("00" format); negative keeps its sign.
 QString Two(long v);
+
+// Roman numeral of 1..12 ("I" .. "XII"); empty outside.
+QString GetRomanNumeral(int n);

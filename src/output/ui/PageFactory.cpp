@@ -6,6 +6,7 @@
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
 #include "sky/pages/frmSodash.h"
+#include "strength/pages/frmAshtak.h"
 #include "strength/pages/frmBhav.h"
 
 TopicPage *CreateTopicPage(const QString &name, QWidget *parent)
@@ -18,6 +19,12 @@ TopicPage *CreateTopicPage(const QString &name, QWidget *parent)
         return new frmSodash(parent);
     if (name == QLatin1String("frmBhav"))
         return new frmBhav(parent);
+    if (name == QLatin1String("frmBhinnaAshtak"))
+        return new frmBhinnaAshtak(1, parent);
+    if (name == QLatin1String("frmBhinnaAshtak2"))
+        return new frmBhinnaAshtak(2, parent);
+    if (name == QLatin1String("frmAshtak"))
+        return new frmAshtak(parent);
     if (name == QLatin1String("frmVimsot"))
         return new frmVimsot(parent);
     if (name == QLatin1String("frmPratyan"))
