@@ -2,6 +2,7 @@
 #include "cli/CommandLine.h"
 
 #include "dasha/clsDashaVimshottari.h"
+#include "strength/clsShadBala.h"
 
 #include "session/AppSettings.h"
 #include "session/AtlasLookup.h"
@@ -367,6 +368,19 @@ QJsonObject chartJson(const clsPlanets &chart)
     }
     for (int s = 1; s <= 12; ++s)
         ashTotal.append(chart.AshTotal(s));
+    clsShadBala sb(chart);
+    QJsonArray shadbala;
+    for (int p = 1; p <= 7; ++p)
+        shadbala.append(QJsonObject{{QStringLiteral("planet"), p},
+                                    {QStringLiteral("sthana"), sb.SBSthanaBala(p)},
+                                    {QStringLiteral("dik"), sb.SBDikBala(p).toDouble()},
+                                    {QStringLiteral("kala"), sb.SBKaalaBala(p).toDouble()},
+                                    {QStringLiteral("chesta"), sb.SBChestaBala(p)},
+                                    {QStringLiteral("naisargika"), sb.SBNaisargikaBala(p)},
+                                    {QStringLiteral("drig"), sb.SBDrigBala(p).toDouble()},
+                                    {QStringLiteral("total"), sb.TotalShadBala(p).toDouble()},
+                                    {QStringLiteral("rupas"), sb.RupaShadbala(p).toDouble()}});
+    o.insert(QStringLiteral("shadbala"), shadbala);
     o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
     return o;
 }

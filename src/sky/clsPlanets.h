@@ -447,6 +447,14 @@ private:
     bool signAspectedBy(int q, int target) const;
     // ---- end of the dignity predicates ----
 
+    // ---- The first days of the solar year and month (clsPlanets_year.cpp) ----
+public:
+    // Weekday (1 Sunday .. 7 Saturday) of the moment the Sun last stood at 0 degrees, found by
+    // recasting a copy of the chart day by day, then hour by hour.
+    int FirstDayOfYear() const;
+    // Weekday of the Sun's entry into its present sign, by the time search.
+    int FirstDayOfMonth() const;
+
     // ---- Ashtakavarga tables (clsPlanets_ashtakavarga.cpp) ----
 public:
     // Adds 1 to Ashtak of each sign marked by the twelve house flags counted from startSign.

@@ -8,6 +8,7 @@
 #include "sky/pages/frmSodash.h"
 #include "strength/pages/frmAshtak.h"
 #include "strength/pages/frmBhav.h"
+#include "strength/pages/frmShadbala.h"
 
 TopicPage *CreateTopicPage(const QString &name, QWidget *parent)
 {
@@ -25,6 +26,8 @@ TopicPage *CreateTopicPage(const QString &name, QWidget *parent)
         return new frmBhinnaAshtak(2, parent);
     if (name == QLatin1String("frmAshtak"))
         return new frmAshtak(parent);
+    if (name == QLatin1String("frmShadbala"))
+        return new frmShadbala(parent);
     if (name == QLatin1String("frmVimsot"))
         return new frmVimsot(parent);
     if (name == QLatin1String("frmPratyan"))
