@@ -348,6 +348,8 @@ public:
     // Hours from sunrise to sunset.
     double DayDuration() const;
     // Hours of the night before the birth (birth before noon) or after it (from noon on).
+    // The next day's sunrise (hh.mm), kept like the others.
+    double NextSunRiseTime() const;
     double NightDuration() const;
     // Forgets the three kept sun values.
     void ClearSunMemos();
@@ -358,6 +360,7 @@ private:
     mutable double m_sunRise = 0;       // hh.mm; 0 = not yet
     mutable double m_sunSet = 0;        // hh.mm; 0 = not yet
     mutable double m_nightDuration = 0; // hours; 0 = not yet
+    mutable double m_nextSunRise = 0;   // hh.mm; 0 = not yet
     mutable QString m_sunMemoKey;       // the person's moment and place the kept values belong to
     // ---- end of the sun members ----
 

@@ -25,7 +25,7 @@ double clockOf(const clsPerson &p)
 
 void clsPlanets::ClearSunMemos()
 {
-    m_sunRise = m_sunSet = m_nightDuration = 0;
+    m_sunRise = m_sunSet = m_nightDuration = m_nextSunRise = 0;
     m_sunMemoKey.clear();
 }
 
@@ -48,7 +48,7 @@ void clsPlanets::refreshSunMemos() const
                             .arg(p.TextEW().toUpper())
                             .arg(p.GMTDIFF());
     if (key != m_sunMemoKey) {
-        m_sunRise = m_sunSet = m_nightDuration = 0;
+        m_sunRise = m_sunSet = m_nightDuration = m_nextSunRise = 0;
         m_sunMemoKey = key;
     }
 }
@@ -139,6 +139,14 @@ double clsPlanets::DayDuration() const
     return d;
 }
 
+double clsPlanets::NextSunRiseTime() const
+{
+    refreshSunMemos();
+    if (m_nextSunRise == 0)
+        m_nextSunRise = NeighbourSunEvent(*this, SunEvent::Rise, 1);
+    return m_nextSunRise;
+}
+
 double clsPlanets::NightDuration() const
 {
     refreshSunMemos();
@@ -148,7 +156,7 @@ double clsPlanets::NightDuration() const
     if (Person().Hour() < 12)
         n = std::fabs(MinToDec(NeighbourSunEvent(*this, SunEvent::Set, -1)) - (MinToDec(SunRiseTime()) + 24));
     else
-        n = std::fabs(MinToDec(SunSetTime()) - (MinToDec(NeighbourSunEvent(*this, SunEvent::Rise, 1)) + 24));
+        n = std::fabs(MinToDec(SunSetTime()) - (MinToDec(NextSunRiseTime()) + 24));
     if (n > 24) // a sunset after midnight
         n -= 24;
     m_nightDuration = n;

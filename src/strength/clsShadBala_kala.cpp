@@ -3,7 +3,6 @@
 #include "strength/clsShadBala.h"
 
 #include "sky/Functions.h"
-#include "sky/SunEvents.h"
 #include "sky/clsPlanets.h"
 
 #include <algorithm>
@@ -191,7 +190,7 @@ int clsShadBala::horaLord()
         return *m_horaLord;
     const int weekdayLord = clsPlanets::WeekDayLordOfDay(m_c.Person().WeekDayOfBirth());
     const double r1 = MinToDec(m_c.SunRiseTime());
-    const double r2 = MinToDec(NeighbourSunEvent(m_c, SunEvent::Rise, 1));
+    const double r2 = MinToDec(m_c.NextSunRiseTime());
     const double h = (r2 + 24 - r1) / 24;
     const double t = MinToDec(Val(m_c.Person().GetBirthTime()));
     const int n = static_cast<int>(Norm7(1 + Fix((t - r1) / h)));
