@@ -7,6 +7,7 @@
 #include "text/GenLabel.h"
 
 #include <QDateTime>
+#include <QRegularExpression>
 
 namespace {
 constexpr int kLeftX = 30, kRightX = 400;
@@ -34,7 +35,7 @@ void frmPage1::fill()
         {gen("Name"), p.Name()},
         {gen("DOB"), c.ConvertDateToText(born) + QStringLiteral(", ") + c.GetDayName(weekday)},
         {gen("Tim"), time},
-        {gen("Pob"), p.PLOB() + (p.Country().isEmpty() ? QString() : QStringLiteral(", ") + p.Country())},
+        {gen("Pob"), QStringList({p.PLOB().trimmed(), p.Country().trimmed()}).filter(QRegularExpression(QStringLiteral("\\S"))).join(QStringLiteral(", "))},
         {word("EngTerms", QStringLiteral("EngLat")), p.GetLatitudeFull()},
         {word("EngTerms", QStringLiteral("EngLong")), p.GetLongitudeFull()},
         {gen("ltc"), QString::number(c.LTCorrection(), 'f', 2).replace(QLatin1Char('.'), QLatin1Char(':'))},
