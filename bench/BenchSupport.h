@@ -28,10 +28,11 @@ inline void fillDelhi(clsPerson &p)
     p.setTextEW(QStringLiteral("E"));
 }
 
-// Runs the registered benchmarks with the settings store in a throw-away file.
-inline int RunBenchmarks(int argc, char **argv)
+// Runs the registered benchmarks with the settings store in a throw-away file, under an
+// application of the given kind (QApplication for the programs that draw pages).
+template <typename App = QCoreApplication> int RunBenchmarks(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
+    App app(argc, argv);
     QTemporaryDir dir;
     AppSettings::setStoreFile(dir.filePath(QStringLiteral("bench.ini")));
     benchmark::Initialize(&argc, argv);

@@ -17,6 +17,8 @@ namespace {
 
 void BM_FullHoroscopePdf(benchmark::State &state)
 {
+    if (qEnvironmentVariableIsEmpty("ORBANTA_STUFF"))
+        qputenv("ORBANTA_STUFF", QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../STUFF")).toUtf8());
     QTemporaryDir dir;
     QSqlDatabase db;
     if (!OpenTextDB(QStringLiteral("ENGLISH"), db)) {
@@ -58,13 +60,5 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    if (qEnvironmentVariableIsEmpty("ORBANTA_STUFF"))
-        qputenv("ORBANTA_STUFF", QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../STUFF")).toUtf8());
-    QTemporaryDir dir;
-    AppSettings::setStoreFile(dir.filePath(QStringLiteral("bench.ini")));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return RunBenchmarks<QApplication>(argc, argv);
 }

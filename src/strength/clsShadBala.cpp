@@ -2,11 +2,15 @@
 // Positional, directional, natural and aspectual strength, the relations and the minima.
 #include "strength/clsShadBala.h"
 
+#include "strength/ShadBalaFigures.h"
+
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 
 #include <algorithm>
 #include <cmath>
+
+using namespace ShadBalaFigures;
 
 namespace {
 // Natural relations 1..9 (Sun, Mercury, Venus, Mars, Jupiter, Saturn, Moon, Rahu, Ketu): row a,
@@ -47,10 +51,6 @@ inline constexpr std::array<int, 8> kNaturalSevenths{0, 7, 3, 5, 2, 4, 1, 6};
 // The strong and weak points of direction as bhava middles, planets 1..7.
 inline constexpr std::array<std::array<int, 2>, 8> kDikPoints{{{0, 0}, {9, 3}, {0, 6}, {3, 9}, {9, 3}, {0, 6}, {6, 0}, {3, 9}}};
 
-bool inRange(int v, int lo, int hi) { return v >= lo && v <= hi; }
-double rounded(double v) { return RoundHalfEven2(v); }
-QString text(double v) { return FormatHalfEven2(v); }
-double value(const QString &t) { return t.toDouble(); }
 } // namespace
 
 clsShadBala::clsShadBala(const clsPlanets &chart) : m_c(chart)

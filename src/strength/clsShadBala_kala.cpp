@@ -2,17 +2,17 @@
 // Temporal strength (Kala Bala) and the strength of motion (Chesta Bala) with its motion tables.
 #include "strength/clsShadBala.h"
 
+#include "strength/ShadBalaFigures.h"
+
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 
 #include <algorithm>
 #include <cmath>
 
+using namespace ShadBalaFigures;
+
 namespace {
-bool inRange(int v, int lo, int hi) { return v >= lo && v <= hi; }
-double rounded(double v) { return RoundHalfEven2(v); }
-QString text(double v) { return FormatHalfEven2(v); }
-double value(const QString &t) { return t.toDouble(); }
 
 // Motion in degrees by place (units, tens, hundreds, thousands, ten thousands of days) and digit 1..9.
 using MotionTable = std::array<std::array<double, 9>, 5>;
@@ -271,9 +271,7 @@ QString clsShadBala::SBKaalaBala(int planet)
     if (!inRange(planet, 1, 7))
         return text(0);
     int p = planet;
-    return text(value(SBPakshaBala(p)) + value(SBTriBhagaBala(p)) + value(VarshaBala(p)) + value(MaasBala(p)) +
-                value(SBVaraBala(p)) + value(SBHoraBala(p)) + value(SBAyanaBala(p)) + value(SBYuddhaBala(2, p)) +
-                value(SBNataUnnataBala(p)));
+    return text(kaalaPartsFor(p, false) + value(SBAyanaBala(p)) + value(SBYuddhaBala(2, p)));
 }
 
 // ---- strength of motion ----

@@ -10,27 +10,28 @@
 #include "strength/pages/frmBhav.h"
 #include "strength/pages/frmShadbala.h"
 
+namespace {
+struct PageMaker
+{
+    const char *name;
+    TopicPage *(*make)(QWidget *parent);
+};
+template <typename Page> TopicPage *make(QWidget *parent) { return new Page(parent); }
+template <int Part> TopicPage *makeBhinna(QWidget *parent) { return new frmBhinnaAshtak(Part, parent); }
+
+inline constexpr PageMaker kPages[] = {
+    {"frmPage1", make<frmPage1>},          {"frmPage2", make<frmPage2>},
+    {"frmSodash", make<frmSodash>},        {"frmBhav", make<frmBhav>},
+    {"frmBhinnaAshtak", makeBhinna<1>},    {"frmBhinnaAshtak2", makeBhinna<2>},
+    {"frmAshtak", make<frmAshtak>},        {"frmShadbala", make<frmShadbala>},
+    {"frmVimsot", make<frmVimsot>},        {"frmPratyan", make<frmPratyan>},
+};
+} // namespace
+
 TopicPage *CreateTopicPage(const QString &name, QWidget *parent)
 {
-    if (name == QLatin1String("frmPage1"))
-        return new frmPage1(parent);
-    if (name == QLatin1String("frmPage2"))
-        return new frmPage2(parent);
-    if (name == QLatin1String("frmSodash"))
-        return new frmSodash(parent);
-    if (name == QLatin1String("frmBhav"))
-        return new frmBhav(parent);
-    if (name == QLatin1String("frmBhinnaAshtak"))
-        return new frmBhinnaAshtak(1, parent);
-    if (name == QLatin1String("frmBhinnaAshtak2"))
-        return new frmBhinnaAshtak(2, parent);
-    if (name == QLatin1String("frmAshtak"))
-        return new frmAshtak(parent);
-    if (name == QLatin1String("frmShadbala"))
-        return new frmShadbala(parent);
-    if (name == QLatin1String("frmVimsot"))
-        return new frmVimsot(parent);
-    if (name == QLatin1String("frmPratyan"))
-        return new frmPratyan(parent);
+    for (const PageMaker &m : kPages)
+        if (name == QLatin1String(m.name))
+            return m.make(parent);
     return nullptr;
 }

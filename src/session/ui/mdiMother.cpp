@@ -424,28 +424,18 @@ void mdiMother::ToggleSideList()
     tbTopicMap->setChecked(show);
 }
 
-void mdiMother::PrintIt()
-{
-    if (m_topicList.isEmpty())
-        return;
-    m_active = nullptr;
-    {
-        frmPrint dialog(*m_pages, this);
-        dialog.setMode(1);
-        dialog.exec();
-    }
-    UnloadPages();
-    ShowTopic(cmbTopic->currentIndex());
-}
+void mdiMother::PrintIt() { runPrintScreen(1); }
 
-void mdiMother::ExportPDF()
+void mdiMother::ExportPDF() { runPrintScreen(3); }
+
+void mdiMother::runPrintScreen(int mode)
 {
     if (m_topicList.isEmpty())
         return;
     m_active = nullptr;
     {
         frmPrint dialog(*m_pages, this);
-        dialog.setMode(3);
+        dialog.setMode(mode);
         dialog.exec();
     }
     UnloadPages();

@@ -92,6 +92,8 @@ private:
     void buildMenus();
     void buildNavigateMenus();
     void cmbTopic_Click(int index);
+    // The print screen in mode 1 (print) or 3 (PDF); the pages are made afresh afterwards.
+    void runPrintScreen(int mode);
     void step(int by);
     QStackedWidget *m_stack;
     frmLogin *m_login;
