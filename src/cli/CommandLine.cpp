@@ -3,6 +3,7 @@
 
 #include "dasha/clsDashaVimshottari.h"
 #include "strength/clsShadBala.h"
+#include "yoga/CheckYogas.h"
 
 #include "session/AppSettings.h"
 #include "session/AtlasLookup.h"
@@ -381,6 +382,10 @@ QJsonObject chartJson(const clsPlanets &chart)
                                     {QStringLiteral("total"), sb.TotalShadBala(p).toDouble()},
                                     {QStringLiteral("rupas"), sb.RupaShadbala(p).toDouble()}});
     o.insert(QStringLiteral("shadbala"), shadbala);
+    QJsonArray yogas;
+    for (const QString &key : CheckYogas::NameKeys(CheckYogas::ScanYogas(chart)))
+        yogas.append(key);
+    o.insert(QStringLiteral("yogas"), yogas);
     o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
     return o;
 }

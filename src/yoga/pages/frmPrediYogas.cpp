@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "yoga/pages/frmPrediYogas.h"
+
+#include "output/ui/PageStyle.h"
+#include "session/Session.h"
+#include "sky/clsPlanets.h"
+#include "text/GenLabel.h"
+
+#include <QTextCursor>
+#include <QTextEdit>
+
+void frmPrediYogas::fill()
+{
+    const clsPlanets &c = chart();
+    Title(GenLabel(QStringLiteral("YogaHead"), c));
+    CheckYogas::ScanYogas(c, this);
+    rtfText->moveCursor(QTextCursor::Start);
+}
+
+void frmPrediYogas::PutYogaHead(const QString &nameKey)
+{
+    m_printed << nameKey;
+    NewLines(1);
+    // The heading style, with no line after it: the paragraph follows at once.
+    QTextCursor cur(rtfText->document());
+    cur.movePosition(QTextCursor::End);
+    QTextCharFormat f;
+    f.setFontFamilies({QString::fromLatin1(kPageFont)});
+    f.setFontPointSize(Session().Language.TextHeadSize);
+    f.setFontWeight(QFont::Bold);
+    f.setForeground(PageColors::Current().SubHeadCol);
+    cur.insertText(chart().GetHeadValue(7, nameKey).toString(), f);
+    NewLines(1);
+}
+
+void frmPrediYogas::PutYogaText(const QString &key) { PutText(chart().GetHeadValue(2, key).toString()); }
