@@ -82,7 +82,7 @@ TEST_F(Navigation, GenerateOpensGeneralDetailsAndEveryRouteAgrees)
     menuItem(window->mnuHorNav, 0)->trigger();
     expectShowing(0);
     // Items of topics still to come are there but lead nowhere.
-    EXPECT_FALSE(menuItem(window->mnuHorNav, 30)->isEnabled());
+    EXPECT_FALSE(menuItem(window->mnuHorNav, 7)->isEnabled()); // "8. Upagrahas", still to come
 }
 
 TEST_F(Navigation, NextStopsAtTheLastTopicAndPreviousAtTheFirst)

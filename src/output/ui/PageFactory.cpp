@@ -9,6 +9,7 @@
 #include "strength/pages/frmAshtak.h"
 #include "strength/pages/frmBhav.h"
 #include "strength/pages/frmShadbala.h"
+#include "text/pages/frmForText.h"
 #include "yoga/pages/frmPrediYogas.h"
 
 namespace {
@@ -26,7 +27,7 @@ inline constexpr PageMaker kPages[] = {
     {"frmBhinnaAshtak", makeBhinna<1>},    {"frmBhinnaAshtak2", makeBhinna<2>},
     {"frmAshtak", make<frmAshtak>},        {"frmShadbala", make<frmShadbala>},
     {"frmVimsot", make<frmVimsot>},        {"frmPratyan", make<frmPratyan>},
-    {"frmPrediYogas", make<frmPrediYogas>},
+    {"frmPrediYogas", make<frmPrediYogas>}, {"frmForText", make<frmForText>},
 };
 } // namespace
 
