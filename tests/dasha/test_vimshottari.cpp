@@ -3,7 +3,7 @@
 // the tree's invariants over many charts, and the walk down and back up.
 #include "dasha/clsDashaVimshottari.h"
 #include "sky/clsPlanets.h"
-#include "support/TestSupport.h"
+#include "support/EnglishChart.h"
 #include "text/TextDB.h"
 
 #include <gtest/gtest.h>
@@ -12,20 +12,9 @@
 
 namespace {
 
-class VimshottariDasha : public ::testing::Test
+class VimshottariDasha : public EnglishChart
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(OpenTextDB("ENGLISH", db));
-        chart.setTextDB(db, QSqlDatabase());
-        chart.Person() = MakePerson(15, 8, 1980, 14, 35, "5.5", 28, 38, "N", 77, 12, "E");
-    }
-    void TearDown() override
-    {
-        chart.setTextDB(QSqlDatabase(), QSqlDatabase());
-        CloseTextDB(db);
-    }
     // The Moon at l on the person's birth moment, without a cast.
     void moonAt(double l)
     {
@@ -34,9 +23,6 @@ protected:
         chart.setPlanetLongi(7, l);
     }
     static qint64 seconds(const QDateTime &a, const QDateTime &b) { return std::llabs(a.secsTo(b)); }
-    ScopedSettingsStore store;
-    QSqlDatabase db;
-    clsPlanets chart;
 };
 
 } // namespace

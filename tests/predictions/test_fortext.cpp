@@ -2,7 +2,7 @@
 // The general predictions: the small scores and steps worked out by hand, the health lists of a
 // chart without close aspects, and every key the report reads over a sweep of charts.
 #include "sky/clsPlanets.h"
-#include "support/TestSupport.h"
+#include "support/EnglishChart.h"
 #include "text/ForText.h"
 #include "text/MessageSink.h"
 #include "text/TextDB.h"
@@ -27,23 +27,9 @@ public:
     QStringList reports;
 };
 
-class Predictions : public ::testing::Test
+class Predictions : public EnglishChart
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(OpenTextDB("ENGLISH", db));
-        chart.setTextDB(db, QSqlDatabase());
-        chart.Person() = MakePerson(15, 8, 1980, 14, 35, "5.5", 28, 38, "N", 77, 12, "E");
-    }
-    void TearDown() override
-    {
-        chart.setTextDB(QSqlDatabase(), QSqlDatabase());
-        CloseTextDB(db);
-    }
-    ScopedSettingsStore store;
-    QSqlDatabase db;
-    clsPlanets chart;
 };
 
 } // namespace
