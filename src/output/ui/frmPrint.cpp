@@ -55,6 +55,7 @@ frmPrint::frmPrint(PageCache &pages, QWidget *parent) : QDialog(parent), m_pages
     auto *hint = new QLabel(QStringLiteral("To make a new set, write its name and press 'Save Set'"));
     hint->setWordWrap(true);
     sets->addWidget(hint, 2, 0, 1, 2);
+    sets->setRowStretch(3, 1);
 
     tvwPrint = new QTreeWidget;
     tvwPrint->setObjectName(QStringLiteral("tvwPrint"));
