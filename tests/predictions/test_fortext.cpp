@@ -4,7 +4,7 @@
 #include "sky/clsPlanets.h"
 #include "support/EnglishChart.h"
 #include "text/ForText.h"
-#include "text/MessageSink.h"
+#include "support/RecordingSink.h"
 #include "text/TextDB.h"
 
 #include <gtest/gtest.h>
@@ -17,14 +17,6 @@ public:
     void PutHead(const QString &text) override { heads << text; }
     void PutText(const QString &text) override { texts << text; }
     QStringList heads, texts;
-};
-
-class Sink final : public MessageSink
-{
-public:
-    void warn(const QString &title, const QString &text) override { reports << title + ": " + text; }
-    void fatal(const QString &title, const QString &text) override { warn(title, text); }
-    QStringList reports;
 };
 
 class Predictions : public EnglishChart
@@ -107,7 +99,7 @@ TEST_F(Predictions, TheLastEducationLineThatHoldsWins)
 
 TEST_F(Predictions, EveryKeyOfASweepOfChartsIsInTheTexts)
 {
-    Sink sink;
+    RecordingSink sink;
     const ScopedMessageSink scoped(&sink);
     for (int step = 0; step < 48; ++step) {
         chart.Person() = MakePerson(1 + (step * 5) % 28, 1 + step % 12, 1930 + step, (step * 7) % 24, (step * 11) % 60, "5.5",

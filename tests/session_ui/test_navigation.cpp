@@ -7,7 +7,7 @@
 #include "output/ui/TopicPage.h"
 #include "session_ui/SessionWindow.h"
 #include "sky/pages/frmSodash.h"
-#include "text/MessageSink.h"
+#include "support/RecordingSink.h"
 
 #include <QAction>
 #include <QApplication>
@@ -16,15 +16,6 @@
 #include <QTreeWidget>
 
 namespace {
-
-// Collects what the core reports, so that a missing text key fails the test.
-class RecordingSink final : public MessageSink
-{
-public:
-    void warn(const QString &title, const QString &text) override { reports << title + ": " + text; }
-    void fatal(const QString &title, const QString &text) override { warn(title, text); }
-    QStringList reports;
-};
 
 class Navigation : public EntryScreen
 {
