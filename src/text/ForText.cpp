@@ -351,8 +351,11 @@ QString ForText::FindProfession()
 QString ForText::FindWealth()
 {
     const auto house = [&](int lordHouse) { return QString::number(Norm12(sign(lordOfHouse(lordHouse)) - lagna() + 1)); };
-    return fortune(QStringLiteral("FWLord2"), house(2)) + nl() + fortune(QStringLiteral("EWLORD11"), house(11)) + nl() +
-           fortune(QStringLiteral("IWLORD8"), house(8));
+    // One lookup a statement, so that the keys are read (and logged) in the order of the report.
+    const QString second = fortune(QStringLiteral("FWLord2"), house(2));
+    const QString eleventh = fortune(QStringLiteral("EWLORD11"), house(11));
+    const QString eighth = fortune(QStringLiteral("IWLORD8"), house(8));
+    return second + nl() + eleventh + nl() + eighth;
 }
 
 QString ForText::MarriageStep(int total)
@@ -396,7 +399,11 @@ QString ForText::FindMarriage()
     const QString step = MarriageStep(total);
     if (!step.isEmpty())
         parts << fortune(marp, step);
+    // The lords of the Lagna and its 7th, then those of the Moon's sign and its 7th. With the Moon
+    // in the Lagna or the 7th both steps name the same two lords, and two different pairs can still
+    // reach the same key: a key already read isn't read again.
     bool related = false;
+    QStringList relationKeys;
     for (int ref : {lg, mo}) {
         const int a = clsPlanets::FindRashiLordNo(ref), b = clsPlanets::FindRashiLordNo(Norm12(ref + 6));
         const QString r = clsPlanets::FindRelation(m_c.PlanetLongi(a) - m_c.PlanetLongi(b));
@@ -408,6 +415,9 @@ QString ForText::FindMarriage()
             const QString kinds = FindBeneficMalefic(a) + FindBeneficMalefic(b);
             key = (kinds == QLatin1String("MM") ? QStringLiteral("M") : kinds == QLatin1String("BB") ? QStringLiteral("B") : QStringLiteral("N")) + r;
         }
+        if (relationKeys.contains(key))
+            continue;
+        relationKeys << key;
         parts << fortune(marp, key);
     }
     if (!related)
@@ -466,7 +476,9 @@ void ForText::Write(PredictionOutput &out)
     out.PutHead(head("TravelText"));
     out.PutText(FindTravel());
     out.PutHead(head("GemStones"));
-    out.PutText(fortune(QStringLiteral("GEMSTONES"), FindLuckyStone()) + nl() + fortune(QStringLiteral("GEMSTONES"), QStringLiteral("PS")));
+    const QString stone = fortune(QStringLiteral("GEMSTONES"), FindLuckyStone());
+    const QString caution = fortune(QStringLiteral("GEMSTONES"), QStringLiteral("PS"));
+    out.PutText(stone + nl() + caution);
 }
 
 QStringList ForText::KeysRead() { return m_keys; }
