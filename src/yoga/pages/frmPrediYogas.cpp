@@ -21,7 +21,8 @@ void frmPrediYogas::PutYogaHead(const QString &nameKey)
 {
     m_printed << nameKey;
     NewLines(1);
-    // The heading style, with no line after it: the paragraph follows at once.
+    // The heading style, with no line break of its own after it: the paragraph follows at once,
+    // and a name that wants a line to itself carries the break in its text.
     QTextCursor cur(rtfText->document());
     cur.movePosition(QTextCursor::End);
     QTextCharFormat f;
@@ -30,7 +31,6 @@ void frmPrediYogas::PutYogaHead(const QString &nameKey)
     f.setFontWeight(QFont::Bold);
     f.setForeground(PageColors::Current().SubHeadCol);
     cur.insertText(chart().GetHeadValue(7, nameKey).toString(), f);
-    NewLines(1);
 }
 
 void frmPrediYogas::PutYogaText(const QString &key) { PutText(chart().GetHeadValue(2, key).toString()); }
