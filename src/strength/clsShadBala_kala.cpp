@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-// Temporal strength (Kala Bala) and the strength of motion (Chesta Bala) with its motion tables.
+// Temporal strength (Kala Bala): its nine parts and their sum.
 #include "strength/clsShadBala.h"
 
 #include "strength/ShadBalaFigures.h"
@@ -13,103 +13,33 @@
 using namespace ShadBalaFigures;
 
 namespace {
+// An hh.mm figure (hours and minutes, or minutes and seconds) as a count of the smaller unit.
+double smallUnits(double hhmm) { return Fix(hhmm) * 60 + CLng(Frac(hhmm) * 100); }
 
-// Motion in degrees by place (units, tens, hundreds, thousands, ten thousands of days) and digit 1..9.
-using MotionTable = std::array<std::array<double, 9>, 5>;
-
-inline constexpr MotionTable kSunMotion{{
-    {0.9856, 1.9712, 2.9568, 3.9524, 4.928, 5.9136, 6.8992, 7.8848, 8.8704},
-    {9.856, 19.712, 29.568, 39.524, 49.28, 59.136, 68.992, 78.848, 88.704},
-    {98.5602, 197.1205, 295.6808, 34.2411, 132.8013, 231.3616, 329.9218, 68.4821, 167.0424},
-    {265.6026, 71.2053, 76.808, 342.4106, 248.0133, 153.6159, 59.2186, 324.8212, 230.4239},
-    {146.0265, 272.0531, 48.0796, 184.1062, 320.1327, 96.1593, 232.1868, 8.2124, 144.2389},
-}};
-inline constexpr MotionTable kMarsMotion{{
-    {0.524, 1.048, 1.5721, 2.0961, 2.6201, 3.1441, 3.668, 4.192, 4.716},
-    {5.24, 10.48, 15.721, 20.961, 26.201, 31.441, 36.68, 41.92, 47.16},
-    {52.4, 104.8, 157.21, 209.61, 262.01, 314.41, 6.814, 59.22, 111.62},
-    {164.02, 328.04, 132.06, 296.08, 100.1, 264.12, 68.14, 232.55, 36.17},
-    {200.19, 40.39, 240.58, 80.78, 280.97, 121.16, 321.36, 161.55, 1.74},
-}};
-inline constexpr MotionTable kJupiterMotion{{
-    {0.0831, 0.16619, 0.24929, 0.33239, 0.4155, 0.4986, 0.5817, 0.6658, 0.7479},
-    {0.831, 1.6619, 2.4929, 3.3239, 4.155, 4.986, 5.817, 6.658, 7.479},
-    {8.31, 16.619, 24.929, 33.239, 41.55, 49.86, 58.17, 66.58, 74.79},
-    {83.1, 166.19, 249.29, 332.39, 55.48, 138.58, 221.67, 304.77, 78.87},
-    {110.96, 221.96, 332.89, 83.85, 194.82, 305.78, 56.74, 167.71, 278.67},
-}};
-inline constexpr MotionTable kSaturnMotion{{
-    {0.033439, 0.06688, 0.10032, 0.13376, 0.1672, 0.200636, 0.23408, 0.26751, 0.30095},
-    {0.33439, 0.6688, 1.0032, 1.3376, 1.672, 2.00636, 2.3408, 2.6751, 3.0095},
-    {3.3439, 6.688, 10.032, 13.376, 16.72, 20.0636, 23.408, 26.751, 30.095},
-    {33.439, 66.88, 100.32, 133.76, 167.2, 200.636, 234.08, 267.51, 300.95},
-    {334.39, 308.79, 283.18, 257.57, 231.97, 206.36, 180.75, 152.14, 122.54},
-}};
-inline constexpr MotionTable kMercuryApex{{
-    {4.0923, 8.184, 12.277, 16.369, 20.462, 24.554, 28.646, 32.738, 36.8309},
-    {40.923, 81.84, 122.77, 163.69, 204.62, 245.54, 286.46, 327.38, 8.309},
-    {49.23, 98.46, 147.69, 196.93, 246.16, 295.39, 344.62, 33.85, 83.09},
-    {133.32, 264.64, 36.95, 169.27, 301.59, 73.908, 206.34, 338.5, 110.86},
-    {243.18, 126.36, 9.54, 252.72, 135.9, 19.08, 262.26, 145.44, 28.63},
-}};
-inline constexpr MotionTable kVenusApex{{
-    {1.60215, 3.20429, 4.806, 6.409, 8.010732, 9.6129, 11.21, 12.817, 14.419318},
-    {16.0215, 32.0429, 48.06, 64.09, 80.10732, 96.129, 116.15, 128.17, 144.19318},
-    {160.215, 320.429, 120.64, 280.86, 81.0732, 241.29, 41.5, 201.72, 1.9318},
-    {162.15, 324.29, 246.44, 288.52, 90.732, 252.88, 55.02, 217.17, 19.318},
-    {181.46, 2.93, 184.39, 5.86, 187.32, 8.87, 190.25, 11.71, 193.18},
-}};
-
-// The motion of `days` days: the table by the digits of the days, and the fraction of a day at the
-// rate of one day. A rounded digit of 10 counts as 9.
-double motion(const MotionTable &t, double days)
-{
-    double sum = 0;
-    double d = days;
-    const double places[] = {10000, 1000, 100, 10};
-    for (int i = 0; i < 4; ++i) {
-        const double place = places[i];
-        if (d < place)
-            continue;
-        const int digit = std::min(9, static_cast<int>(CLng(d) / static_cast<long>(place)));
-        d -= digit * place;
-        if (digit > 0)
-            sum += t[static_cast<size_t>(4 - i)][static_cast<size_t>(digit - 1)];
-    }
-    if (d > 1) {
-        const int units = std::min(9, static_cast<int>(Int(d)));
-        d -= units;
-        if (units > 0)
-            sum += t[0][static_cast<size_t>(units - 1)];
-    }
-    sum += d * t[0][0];
-    return Norm360(sum);
-}
+int weekdayLordOfBirth(const clsPlanets &c) { return clsPlanets::WeekDayLordOfDay(c.Person().WeekDayOfBirth()); }
 } // namespace
-
-// ---- the parts of temporal strength ----
 
 QString clsShadBala::SBNataUnnataBala(int planet)
 {
     const clsPerson &p = m_c.Person();
     QString lon = p.GetLongi();
-    lon.chop(1); // the direction letter
+    while (!lon.isEmpty() && !lon.back().isDigit())
+        lon.chop(1); // the direction letter, when there is one
     const double n = Val(lon);
-    const double birth = Val(p.GetBirthTime());
-    const double t = Fix(birth) * 60 + std::round(Frac(birth) * 100);
-    const double ltc = m_c.LTCorrection();
-    const double c = (Fix(ltc) * 60 + std::round(Frac(ltc) * 100)) / 60.0;
-    const double minutes = n >= 82.5 ? t + c : t - c;
-    const double hhmm = Fix(minutes / 60) + (minutes - Fix(minutes / 60) * 60) / 100;
+    const double birth = smallUnits(Val(p.GetBirthTime()));
+    const double correction = smallUnits(m_c.LTCorrection()) / 60;
+    const double minutes = n >= 82.5 ? birth + correction : birth - correction;
+    const double hours = Fix(minutes / 60);
+    const double t = hours + (minutes - hours * 60) / 100; // hh.mm, read as a plain number
     double nata;
-    if (hhmm == 12)
+    if (t == 12)
         nata = 60;
-    else if (hhmm == 0)
+    else if (t == 0)
         nata = 0;
-    else if (hhmm < 12 && hhmm > 0)
-        nata = 5 * hhmm;
-    else if (hhmm > 12 && hhmm < 24)
-        nata = 60 - 5 * (hhmm - 12);
+    else if (t < 12)
+        nata = 5 * t; // below 0 just after midnight where the clock runs ahead of local time
+    else if (t < 24)
+        nata = 60 - 5 * (t - 12);
     else
         nata = 0;
     switch (planet) {
@@ -122,25 +52,23 @@ QString clsShadBala::SBNataUnnataBala(int planet)
 
 QString clsShadBala::SBPakshaBala(int planet)
 {
-    double d = Norm360(m_c.PlanetLongi(7) - m_c.PlanetLongi(1));
-    if (d == 360)
-        d = 0;
+    if (!inRange(planet, 1, 7))
+        return text(0);
+    const double d = Norm360(m_c.PlanetLongi(7) - m_c.PlanetLongi(1));
     double benefic;
-    if (d == 0)
+    if (d == 0 || d == 360)
         benefic = 0;
     else if (d < 180)
         benefic = d / 3;
     else if (d == 180)
         benefic = 60;
     else
-        benefic = d / 3 - 60; // rising again from 0 after the Full Moon
+        benefic = d / 3 - 60; // rising again from 0 after the full Moon
     const bool beneficGroup = planet == 7 || planet == 2 || planet == 5 || planet == 3;
-    if (!inRange(planet, 1, 7))
-        return text(0);
     return text(beneficGroup ? benefic : 60 - benefic);
 }
 
-int clsShadBala::triBhaga() const
+int clsShadBala::GetTriBhaga() const
 {
     const double t = MinToDec(Val(m_c.Person().GetBirthTime()));
     const double rise = MinToDec(m_c.SunRiseTime());
@@ -156,7 +84,7 @@ int clsShadBala::triBhaga() const
             return 3;
         return 0;
     }
-    const double night = t < set ? t + 24 : t;
+    const double night = t < set ? t + 24 : t; // hours counted on from sunset across midnight
     if (night > set && night <= set + q)
         return 1;
     if (night > set + q && night <= set + 2 * q)
@@ -170,7 +98,7 @@ QString clsShadBala::SBTriBhagaBala(int planet)
 {
     if (planet == 5)
         return text(60);
-    const int part = triBhaga();
+    const int part = GetTriBhaga();
     if (part == 0)
         return text(0);
     // By day Mercury, the Sun, Saturn; by night the Moon, Venus, Mars.
@@ -179,29 +107,22 @@ QString clsShadBala::SBTriBhagaBala(int planet)
     return text(lord == planet ? 60 : 0);
 }
 
-QString clsShadBala::SBVaraBala(int planet)
-{
-    return text(clsPlanets::WeekDayLordOfDay(m_c.Person().WeekDayOfBirth()) == planet ? 45 : 0);
-}
+QString clsShadBala::SBVaraBala(int planet) { return text(weekdayLordOfBirth(m_c) == planet ? 45 : 0); }
 
-int clsShadBala::horaLord()
+int clsShadBala::HoraLordOfBirth() const
 {
-    if (m_horaLord)
-        return *m_horaLord;
-    const int weekdayLord = clsPlanets::WeekDayLordOfDay(m_c.Person().WeekDayOfBirth());
     const double r1 = MinToDec(m_c.SunRiseTime());
     const double r2 = MinToDec(m_c.NextSunRiseTime());
     const double h = (r2 + 24 - r1) / 24;
     const double t = MinToDec(Val(m_c.Person().GetBirthTime()));
     const int n = static_cast<int>(Norm7(1 + Fix((t - r1) / h)));
-    const auto at = std::find(HoraSequence.begin() + 1, HoraSequence.end(), weekdayLord);
-    const int i = static_cast<int>(at - HoraSequence.begin());
+    const auto found = std::find(HoraSequence.begin() + 1, HoraSequence.end(), weekdayLordOfBirth(m_c));
+    const int i = static_cast<int>(found - HoraSequence.begin());
     const int m = static_cast<int>(Norm7(i - 1 + n));
-    m_horaLord = HoraSequence[static_cast<size_t>(m)];
-    return *m_horaLord;
+    return HoraSequence[static_cast<size_t>(m)]; // 0 at place 0
 }
 
-QString clsShadBala::SBHoraBala(int planet) { return text(horaLord() == planet ? 60 : 0); }
+QString clsShadBala::SBHoraBala(int planet) { return text(HoraLordOfBirth() == planet && planet != 0 ? 60 : 0); }
 
 QString clsShadBala::VarshaBala(int &planet)
 {
@@ -219,8 +140,8 @@ QString clsShadBala::MaasBala(int &planet)
 
 QString clsShadBala::SBAyanaBala(int &planet)
 {
-    const double x = Norm360(m_c.PlanetLongi(planet) + m_c.PlanetLongi(13));
-    const int side = (x > 0 && x < 180) ? 1 : (x > 180 && x < 360 ? 2 : 0);
+    const double x = Norm360(m_c.PlanetLongi(planet) + m_c.PlanetLongi(13)); // tropical
+    const int side = (x > 0 && x < 180) ? 1 : (x > 180 ? 2 : 0);
     double k;
     if (x <= 90)
         k = x / 90 * 23.45;
@@ -239,31 +160,31 @@ QString clsShadBala::SBAyanaBala(int &planet)
     }
 }
 
-double clsShadBala::kaalaPartsFor(int planet, bool withSthanaAndDik)
+// What a planet brings to a war: its temporal parts but the war and the declination, with its
+// positional and directional strength, each as shown.
+double clsShadBala::yuddhaSum(int planet)
 {
     int p = planet;
-    double a = value(SBPakshaBala(p)) + value(SBTriBhagaBala(p)) + value(VarshaBala(p)) + value(MaasBala(p)) +
-               value(SBVaraBala(p)) + value(SBHoraBala(p)) + value(SBNataUnnataBala(p));
-    if (withSthanaAndDik)
-        a += SBSthanaBala(p) + value(SBDikBala(p));
-    return a;
+    return value(SBPakshaBala(p)) + value(SBTriBhagaBala(p)) + value(VarshaBala(p)) + value(MaasBala(p)) +
+           value(SBVaraBala(p)) + value(SBHoraBala(p)) + SBSthanaBala(p) + value(SBDikBala(p)) + value(SBNataUnnataBala(p));
 }
 
 QString clsShadBala::SBYuddhaBala(int /*ignored*/, int planet)
 {
     if (!inRange(planet, 2, 6))
         return text(0);
-    // The planet within a degree of it, by straight difference; a later one replaces an earlier.
+    // The opponent: within a degree by the straight difference; a later one replaces an earlier.
+    const double l = m_c.PlanetLongi(planet);
     int opponent = 0;
     for (int q = 2; q <= 6; ++q)
-        if (q != planet && std::fabs(m_c.PlanetLongi(planet) - m_c.PlanetLongi(q)) <= 1)
+        if (q != planet && std::fabs(l - m_c.PlanetLongi(q)) <= 1)
             opponent = q;
     if (opponent == 0)
         return text(0);
-    const double a = kaalaPartsFor(planet, true);
-    const double b = kaalaPartsFor(opponent, true);
+    const double a = yuddhaSum(planet);
+    const double b = yuddhaSum(opponent);
     const double share = std::fabs(a - b) / BimbaPariman(planet);
-    return text(m_c.PlanetLongi(planet) < m_c.PlanetLongi(opponent) ? a + share : a - share);
+    return text(l < m_c.PlanetLongi(opponent) ? a + share : a - share);
 }
 
 QString clsShadBala::SBKaalaBala(int planet)
@@ -271,66 +192,7 @@ QString clsShadBala::SBKaalaBala(int planet)
     if (!inRange(planet, 1, 7))
         return text(0);
     int p = planet;
-    return text(kaalaPartsFor(p, false) + value(SBAyanaBala(p)) + value(SBYuddhaBala(2, p)));
-}
-
-// ---- strength of motion ----
-
-double clsShadBala::DaysSince1900() const
-{
-    const clsPerson &p = m_c.Person();
-    const double g = MinToDec(p.Longitude());
-    const double u = 455.0 / 6.0;
-    double t = MinToDec(Val(p.GetBirthTime()));
-    if (g > u)
-        t -= (g - u) / 15;
-    else if (g < u)
-        t += (u - g) / 15;
-    const QDate born(static_cast<int>(p.Year()), static_cast<int>(p.Month()), static_cast<int>(p.Day()));
-    const qint64 dayOfYear = QDate(born.year(), 1, 1).daysTo(born);
-    return (p.Year() - 1900) * 365.2564 + static_cast<double>(dayOfYear) - 1 + t / 24;
-}
-
-double clsShadBala::MeanLongiOfPlanets(double days, int planet) const
-{
-    const double years = m_c.Person().Year() - 1900;
-    switch (planet) {
-    case 1: case 2: case 3: return Norm360(motion(kSunMotion, days) + 257.4568);
-    case 4: return Norm360(motion(kMarsMotion, days) + 270.22);
-    case 5: return Norm360(motion(kJupiterMotion, days) + 220.04 - 3.33 - years * 0.0067);
-    case 6: return Norm360(motion(kSaturnMotion, days) + 236.74 + 5.0 + years * 0.001);
-    default: return 0;
-    }
-}
-
-double clsShadBala::SheeghrochchaOfPlanets(double days, int planet) const
-{
-    const double years = m_c.Person().Year() - 1900;
-    switch (planet) {
-    case 2: return Norm360(motion(kMercuryApex, days) + 164.0 + 6.67 - years * 0.00133);
-    case 3: return Norm360(motion(kVenusApex, days) + 328.51 - 5.0 - years * 0.0001);
-    case 4: case 5: case 6: return MeanLongiOfPlanets(days, 1);
-    default: return 0;
-    }
-}
-
-double clsShadBala::ChestaKendra(int planet) const
-{
-    const double d = DaysSince1900();
-    const double s = SheeghrochchaOfPlanets(d, planet);
-    const double m = MeanLongiOfPlanets(d, planet);
-    const double c = Norm360(s - (m + m_c.PlanetLongi(planet)) / 2);
-    return c > 180 ? 360 - c : c;
-}
-
-double clsShadBala::SBChestaBala(int planet)
-{
-    int p = planet;
-    if (planet == 1)
-        return rounded(value(SBAyanaBala(p)));
-    if (planet == 7)
-        return rounded(value(SBPakshaBala(7)));
-    if (!inRange(planet, 2, 6))
-        return 0;
-    return rounded(ChestaKendra(planet) / 3);
+    return text(value(SBPakshaBala(p)) + value(SBTriBhagaBala(p)) + value(VarshaBala(p)) + value(MaasBala(p)) +
+                value(SBVaraBala(p)) + value(SBHoraBala(p)) + value(SBAyanaBala(p)) + value(SBYuddhaBala(2, p)) +
+                value(SBNataUnnataBala(p)));
 }
