@@ -255,20 +255,21 @@ Birth checked(const Birth &b)
 void fillPerson(const Birth &b, clsPerson &person)
 {
     const BirthFields &f = b.fields;
+    const BirthValues v = ReadBirthValues(f).value_or(BirthValues{}); // checked before
     person.setName(b.name);
     person.setSex(b.sex);
-    person.setDay(Val(f.date.mid(0, 2)));
-    person.setMonth(Val(f.date.mid(3, 2)));
-    person.setYear(Val(f.date.right(4)));
-    person.setHour(Val(f.time.left(2)));
-    person.setMinutes(Val(f.time.right(2)));
+    person.setDay(v.day);
+    person.setMonth(v.month);
+    person.setYear(v.year);
+    person.setHour(v.hour);
+    person.setMinutes(v.minute);
     person.setAMPM(person.Hour() >= 12 ? 2 : 1);
     person.setGMTDIFF(NumText(GmtTextToHours(f.gmt)));
-    person.setLatDeg(Val(f.latitude.left(3)));
-    person.setLatMT(Val(f.latitude.right(2)));
+    person.setLatDeg(v.latDeg);
+    person.setLatMT(v.latMin);
     person.setTextNS(b.ns);
-    person.setLongDeg(Val(f.longitude.left(3)));
-    person.setLongMT(Val(f.longitude.right(2)));
+    person.setLongDeg(v.lonDeg);
+    person.setLongMT(v.lonMin);
     person.setTextEW(b.ew);
     person.setTimeCorr(b.tcorr);
     person.setTimeCorrInde(b.tcorrGiven ? 4 : b.tcorrIndex);

@@ -5,7 +5,6 @@
 #include "sky/clsVakya.h"
 
 #include <QDate>
-#include <QRegularExpression>
 
 #include <array>
 
@@ -36,10 +35,75 @@ EntryMessage message(int number, const QString &title)
     return m;
 }
 
-// The whole-number value of a part of a field, as Val reads it.
-double part(const QString &text, int from, int length) { return Val(text.mid(from, length)); }
-double lastTwo(const QString &text) { return Val(text.right(2)); }
+// A check that a two-part box fails when it can't be read or a part exceeds its limit.
+bool exceeds(const std::optional<EntryPair> &v, int wholeLimit, int minuteLimit)
+{
+    return !v || v->whole > wholeLimit || v->minutes > minuteLimit;
+}
 } // namespace
+
+std::optional<std::vector<int>> EntryParts(const QString &text, QChar separator, int count)
+{
+    const QStringList parts = text.split(separator);
+    if (parts.size() != count)
+        return std::nullopt;
+    std::vector<int> out;
+    for (const QString &part : parts) {
+        QString digits;
+        for (QChar c : part) {
+            if (c.isSpace() || c == QLatin1Char('_'))
+                continue; // a blank the mask left
+            if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+                return std::nullopt;
+            digits += c;
+        }
+        if (digits.isEmpty() || digits.size() > 6)
+            return std::nullopt;
+        out.push_back(digits.toInt());
+    }
+    return out;
+}
+
+std::optional<EntryPair> ParseEntryTime(const QString &text)
+{
+    const auto p = EntryParts(text, QLatin1Char('.'), 2);
+    return p ? std::optional<EntryPair>({(*p)[0], (*p)[1]}) : std::nullopt;
+}
+
+std::optional<EntryPair> ParseEntryAngle(const QString &text)
+{
+    const auto p = EntryParts(text, QLatin1Char(':'), 2);
+    return p ? std::optional<EntryPair>({(*p)[0], (*p)[1]}) : std::nullopt;
+}
+
+double EntryOffset::hhmm() const
+{
+    const double v = hours + minutes / 100.0;
+    return negative ? -v : v;
+}
+
+QString EntryOffset::text() const
+{
+    return (negative ? QStringLiteral("-") : QStringLiteral("+")) + QStringLiteral("%1.%2")
+        .arg(hours, 2, 10, QLatin1Char('0'))
+        .arg(minutes, 2, 10, QLatin1Char('0'));
+}
+
+std::optional<EntryOffset> ParseEntryOffset(const QString &text)
+{
+    QString t = text.trimmed();
+    EntryOffset o;
+    if (t.startsWith(QLatin1Char('-')) || t.startsWith(QLatin1Char('+'))) {
+        o.negative = t.startsWith(QLatin1Char('-'));
+        t.remove(0, 1);
+    }
+    const auto p = EntryParts(t, QLatin1Char('.'), 2);
+    if (!p)
+        return std::nullopt;
+    o.hours = (*p)[0];
+    o.minutes = (*p)[1];
+    return o;
+}
 
 EntryMessage EntryMessageByNumber(int number)
 {
@@ -51,26 +115,49 @@ EntryMessage EntryMessageByNumber(int number)
 
 QDate ParseEntryDate(const QString &text)
 {
-    static const QRegularExpression re(QStringLiteral("^\\s*(\\d{1,2})/(\\d{1,2})/(\\d{4})\\s*$"));
-    const auto m = re.match(text);
-    if (!m.hasMatch())
+    const auto p = EntryParts(text, QLatin1Char('/'), 3);
+    if (!p || QString(text.section(QLatin1Char('/'), 2)).trimmed().size() != 4)
         return {};
-    return QDate(m.captured(3).toInt(), m.captured(2).toInt(), m.captured(1).toInt());
+    return QDate((*p)[2], (*p)[1], (*p)[0]);
 }
 
 double GmtTextToHours(const QString &text)
 {
-    const double x = Val(text);
+    const auto o = ParseEntryOffset(text);
+    const double x = o ? o->hhmm() : Val(text);
     return Fix(x) + (Frac(x) / 60) * 100;
+}
+
+std::optional<BirthValues> ReadBirthValues(const BirthFields &f)
+{
+    if (!ValidateEntry(f).empty())
+        return std::nullopt;
+    const QDate date = ParseEntryDate(f.date);
+    const auto time = ParseEntryTime(f.time);
+    const auto lat = ParseEntryAngle(f.latitude);
+    const auto lon = ParseEntryAngle(f.longitude);
+    const auto gmt = ParseEntryOffset(f.gmt);
+    BirthValues v;
+    v.day = date.day();
+    v.month = date.month();
+    v.year = date.year();
+    v.hour = time->whole;
+    v.minute = time->minutes;
+    v.latDeg = lat->whole;
+    v.latMin = lat->minutes;
+    v.lonDeg = lon->whole;
+    v.lonMin = lon->minutes;
+    v.gmt = gmt ? gmt->text() : f.gmt;
+    return v;
 }
 
 std::vector<EntryMessage> ValidateEntry(const BirthFields &f)
 {
     const QDate date = ParseEntryDate(f.date);
     const bool dateFlag = !date.isValid() || date < QDate(1900, 1, 1);
-    const bool timeFlag = part(f.time, 0, 2) > 24 || lastTwo(f.time) > 59;
-    const bool latFlag = part(f.latitude, 0, 3) > 180 || lastTwo(f.latitude) > 59;
-    const bool lonFlag = part(f.longitude, 0, 3) > 180 || lastTwo(f.longitude) > 59;
+    const bool timeFlag = exceeds(ParseEntryTime(f.time), 24, 59);
+    const bool latFlag = exceeds(ParseEntryAngle(f.latitude), 180, 59);
+    const bool lonFlag = exceeds(ParseEntryAngle(f.longitude), 180, 59);
 
     std::vector<EntryMessage> out;
     if (dateFlag)
@@ -93,36 +180,37 @@ std::optional<EntryMessage> CheckDateField(const QString &text)
 
 std::optional<EntryMessage> CheckTimeField(const QString &text)
 {
-    if (part(text, 0, 2) > 24 || lastTwo(text) > 59)
+    if (exceeds(ParseEntryTime(text), 24, 59))
         return message(6, QStringLiteral("Invalid Time"));
     return std::nullopt;
 }
 
 std::optional<EntryMessage> CheckGmtField(const QString &text, const QString &appTitle)
 {
-    const double v = Val(text);
-    if (v > 12 || v < -12)
+    const auto o = ParseEntryOffset(text);
+    if (!o || o->hhmm() > 12 || o->hhmm() < -12)
         return message(9, appTitle);
     return std::nullopt;
 }
 
 std::optional<EntryMessage> CheckLatitudeField(const QString &text, const QString &appTitle)
 {
-    if (part(text, 0, 3) > 90 || lastTwo(text) > 59)
+    if (exceeds(ParseEntryAngle(text), 90, 59))
         return message(7, appTitle);
     return std::nullopt;
 }
 
 std::optional<EntryMessage> CheckLongitudeField(const QString &text)
 {
-    if (part(text, 0, 3) > 179 || lastTwo(text) > 59)
+    if (exceeds(ParseEntryAngle(text), 179, 59))
         return message(8, QStringLiteral("Invalid Longitude"));
     return std::nullopt;
 }
 
 std::optional<EntryMessage> CheckVakyaLatitude(const QString &latitudeText)
 {
-    if (clsVakya::LagnaDefined(part(latitudeText, 0, 3), lastTwo(latitudeText)))
+    const auto lat = ParseEntryAngle(latitudeText);
+    if (!lat || clsVakya::LagnaDefined(lat->whole, lat->minutes))
         return std::nullopt;
     return EntryMessage{0,
                         QStringLiteral("The Vakya method has no Lagna beyond %1 degrees of latitude. "

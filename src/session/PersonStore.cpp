@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/PersonStore.h"
 
+#include "session/EntryValidation.h"
+
 #include "sky/Functions.h"
 
 #include <QAtomicInt>
+#include <QDate>
 #include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
@@ -137,22 +140,24 @@ PersonRow PersonRow::fromFields(const QString &name, bool male, const QString &d
     PersonRow r;
     r.Name = name;
     r.Sex = male ? 1 : 2;
-    r.Day = static_cast<int>(Val(date.mid(0, 2)));
-    r.Month = static_cast<int>(Val(date.mid(3, 2)));
-    r.Year = static_cast<int>(Val(date.right(4)));
-    r.Hour = static_cast<int>(Val(time.left(2)));
-    r.Minutes = static_cast<int>(Val(time.mid(3, 2)));
-    r.seconds = static_cast<int>(Val(time.right(2))); // the same characters as the minutes
+    // The boxes are read as Generate reads them, so the store keeps what the chart was cast from.
+    const BirthValues v = ReadBirthValues({date, time, latitude, longitude, gmt}).value_or(BirthValues{});
+    r.Day = v.day;
+    r.Month = v.month;
+    r.Year = v.year;
+    r.Hour = v.hour;
+    r.Minutes = v.minute;
+    r.seconds = v.minute; // written from the same characters as the minutes
     r.AMPM = am ? 1 : 2;
     r.Country = country;
     r.City = city;
-    r.LatDeg = static_cast<int>(Val(latitude.left(3)));
-    r.LatMT = static_cast<int>(Val(latitude.right(2)));
+    r.LatDeg = v.latDeg;
+    r.LatMT = v.latMin;
     r.TextNS = ns;
-    r.LongDeg = static_cast<int>(Val(longitude.left(3)));
-    r.LongMT = static_cast<int>(Val(longitude.right(2)));
+    r.LongDeg = v.lonDeg;
+    r.LongMT = v.lonMin;
     r.TextEW = ew;
-    r.GMTDIFF = gmt;
+    r.GMTDIFF = v.gmt.isEmpty() ? gmt : v.gmt;
     r.TCorrVal = timeCorr;
     r.Tcorrinde = timeCorrIndex;
     return r;
@@ -298,6 +303,14 @@ StoreResult PersonStore::ExportPersons(const QString &templateFile, const std::v
     return {true, {}, static_cast<int>(rows.size())};
 }
 
+bool PersonStore::PlausibleRow(const PersonRow &r)
+{
+    const auto within = [](int v, int low, int high) { return v >= low && v <= high; };
+    return QDate(r.Year, r.Month, r.Day).isValid() && within(r.Hour, 0, 24) && within(r.Minutes, 0, 59)
+        && within(r.LatDeg, 0, 180) && within(r.LatMT, 0, 59) && within(r.LongDeg, 0, 180) && within(r.LongMT, 0, 59)
+        && within(r.Sex, 1, 2);
+}
+
 StoreResult PersonStore::ImportPersons(const QString &file)
 {
     const QString notOurs = QStringLiteral("%1 is not a person file of this program, or it is damaged. Nothing was imported.")
@@ -327,6 +340,11 @@ StoreResult PersonStore::ImportPersons(const QString &file)
         if (q.lastError().isValid())
             return {false, notOurs, 0};
     }
+    // A row that no entry screen could have written (day 45, month 13, minute 75) marks a damaged
+    // or foreign file: nothing of it is taken.
+    for (const PersonRow &r : rows)
+        if (!PlausibleRow(r))
+            return {false, notOurs, 0};
 
     if (!m_db.transaction())
         return {false, m_db.lastError().text(), 0};

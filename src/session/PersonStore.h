@@ -85,6 +85,8 @@ public:
     // Appends every row of an exchange file (no test for names already there). A file that is
     // no such database, or is damaged, changes nothing and gives the reason.
     StoreResult ImportPersons(const QString &file);
+    // Whether a row holds a calendar date and numbers the entry screen's boxes can hold.
+    static bool PlausibleRow(const PersonRow &row);
 
 private:
     QSqlDatabase m_db;
