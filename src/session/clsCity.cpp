@@ -158,6 +158,22 @@ int clsCity::FindFirst(const QString &name) const
     return m_cur.findFirst(name, [](const Row &r) { return r.f.City; });
 }
 
+std::vector<int> clsCity::RowsOfPlace(const QString &name, const QString &country) const
+{
+    std::vector<int> out;
+    for (int i = 0; i < m_cur.count(); ++i) {
+        const CityFields &f = m_cur.rows[static_cast<size_t>(i)].f;
+        if (f.City.compare(name.trimmed(), Qt::CaseInsensitive) == 0 && f.Country.compare(country.trimmed(), Qt::CaseInsensitive) == 0)
+            out.push_back(i);
+    }
+    return out;
+}
+
+qint64 clsCity::RowId(int row) const
+{
+    return row >= 0 && row < m_cur.count() ? m_cur.rows[static_cast<size_t>(row)].id : 0;
+}
+
 QString clsCity::BoxToColumn(const QString &box)
 {
     return box.left(3) + box.right(2);

@@ -60,6 +60,10 @@ public:
     int FindFirst(const QString &name) const;
     // The current row as fields.
     CityFields Fields() const;
+    // Indexes of the rows of a place, by name and country (without case), in table order.
+    std::vector<int> RowsOfPlace(const QString &name, const QString &country) const;
+    // The stored row id of row `row`, 0 when there is no such row.
+    qint64 RowId(int row) const;
 
     // Adds a city; refused when its country isn't in table Country or a coordinate is 180 or more.
     AtlasEditResult AddCity(const CityFields &f);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/ui/BirthPanel.h"
 
+#include <QButtonGroup>
 #include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -39,6 +40,10 @@ BirthPanel::BirthPanel(const QString &prefix, bool withSex, QWidget *parent) : Q
     optAM = new QRadioButton(QStringLiteral("AM"));
     optPM = new QRadioButton(QStringLiteral("PM"));
     optPM->setChecked(true);
+    // Sex and the half of the day are two choices of their own: each pair is its own group.
+    grpAMPM = new QButtonGroup(this);
+    grpAMPM->addButton(optAM, 0);
+    grpAMPM->addButton(optPM, 1);
     name(optAM, QStringLiteral("optAM"), QStringLiteral("opt%1AM"));
     name(optPM, QStringLiteral("optPM"), QStringLiteral("opt%1PM"));
 
@@ -82,6 +87,9 @@ BirthPanel::BirthPanel(const QString &prefix, bool withSex, QWidget *parent) : Q
         optMale->setChecked(true);
         optMale->setObjectName(QStringLiteral("optMale"));
         optFemale->setObjectName(QStringLiteral("optFemale"));
+        grpMF = new QButtonGroup(this);
+        grpMF->addButton(optMale, 0);
+        grpMF->addButton(optFemale, 1);
         auto *sex = new QHBoxLayout;
         sex->addWidget(optMale);
         sex->addWidget(optFemale);
@@ -137,6 +145,8 @@ BirthPanel::BirthPanel(const QString &prefix, bool withSex, QWidget *parent) : Q
         grid->addWidget(cmdNowCast, row, 3, 1, 2, Qt::AlignLeft);
     }
     grid->setColumnStretch(5, 1);
+    m_grid = grid;
+    m_nextRow = row + 1;
 
     // Each field posts its hint when it gets the focus.
     const std::pair<QWidget *, int> hints[] = {{cmbName, 101}, {txtDate, 104}, {txtTime, 107}, {optAM, 108}, {optPM, 109},
@@ -156,6 +166,11 @@ BirthPanel::BirthPanel(const QString &prefix, bool withSex, QWidget *parent) : Q
         optMale->installEventFilter(this);
         optFemale->installEventFilter(this);
     }
+}
+
+void BirthPanel::addFooter(QWidget *w)
+{
+    m_grid->addWidget(w, m_nextRow++, 0, 1, 6);
 }
 
 BirthFields BirthPanel::Fields() const

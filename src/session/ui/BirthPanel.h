@@ -5,11 +5,14 @@
 
 #include "session/EntryValidation.h"
 
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QToolButton>
+
+class QGridLayout;
 
 class BirthPanel : public QGroupBox
 {
@@ -28,11 +31,18 @@ public:
     QComboBox *cmbTCorr;
     QLineEdit *txtTCorr;
     QToolButton *cmdNowCast = nullptr, *cmdAddCity = nullptr;
+    // optMF and optAMPM: two groups, so that choosing one never clears the other.
+    QButtonGroup *grpMF = nullptr, *grpAMPM = nullptr;
+
+    // Puts a widget on a row of its own below the fields.
+    void addFooter(QWidget *w);
 
     // The four texts that Generate checks.
     BirthFields Fields() const;
     // The zone of the place last picked from the atlas, empty when typed by hand.
     QString placeZone;
+    // The atlas row of the place last filled from the atlas, 0 when typed by hand.
+    qint64 placeId = 0;
 
 Q_SIGNALS:
     // A field wants its hint shown (resource number).
@@ -40,4 +50,8 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QGridLayout *m_grid = nullptr;
+    int m_nextRow = 0;
 };

@@ -9,18 +9,22 @@
 #include "session/Languages.h"
 #include "session/Session.h"
 #include "session/ZoneHistory.h"
+#include "session/clsCity.h"
 #include "sky/Functions.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMessageBox>
 #include <QSettings>
 #include <QSqlQuery>
 #include <QVBoxLayout>
+
+#include <array>
 
 namespace {
 frmLogin::MessageHandler g_messageHandler;
@@ -120,6 +124,9 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
         a->setObjectName(QString::fromLatin1(t.key));
         a->setToolTip(HintText(t.hint));
     }
+    // The person's tools belong to the single person's frame, below its fields: away from the
+    // main window's tool bar, and hidden with the frame in Marriage mode.
+    single->addFooter(tbTools);
 
     cmdHoroscope = new QPushButton(QStringLiteral("&Horoscope"));
     cmdMatch = new QPushButton(QStringLiteral("&Marriage"));
@@ -135,9 +142,14 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     lblHints->setMinimumHeight(44);
     lblHints->setFrameShape(QFrame::StyledPanel);
     lblHints->setMargin(6);
+    cmdUndoDelete = new QPushButton(QStringLiteral("&Undo Delete"));
+    cmdUndoDelete->setObjectName(QStringLiteral("cmdUndoDelete"));
+    cmdUndoDelete->setToolTip(QStringLiteral("Bring back the person deleted last."));
+    cmdUndoDelete->hide();
     for (QPushButton *b : {cmdHoroscope, cmdMatch, cmdVarshaphala, cmdGenerate, cmdOptions})
         b->setMinimumWidth(110);
     cmdOptions->installEventFilter(this);
+    cmbLangu->installEventFilter(this);
 
     auto *modes = new QVBoxLayout;
     modes->addWidget(cmdHoroscope);
@@ -151,7 +163,6 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     modes->addWidget(cmdGenerate);
 
     auto *fields = new QVBoxLayout;
-    fields->addWidget(tbTools);
     fields->addWidget(frmSingleGuy);
     fields->addWidget(frmMatch);
     fields->addStretch();
@@ -161,7 +172,10 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     top->addLayout(modes);
     auto *outer = new QVBoxLayout(this);
     outer->addLayout(top);
-    outer->addWidget(lblHints);
+    auto *hintArea = new QHBoxLayout;
+    hintArea->addWidget(lblHints, 1);
+    hintArea->addWidget(cmdUndoDelete, 0, Qt::AlignVCenter);
+    outer->addLayout(hintArea);
 
     connect(cmdHoroscope, &QPushButton::clicked, this, &frmLogin::cmdHoroscope_Click);
     connect(cmdMatch, &QPushButton::clicked, this, &frmLogin::cmdMatch_Click);
@@ -169,6 +183,8 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     connect(cmdGenerate, &QPushButton::clicked, this, [this] { cmdGenerate_Click(); });
     connect(cmdOptions, &QPushButton::clicked, this, &frmLogin::optionsRequested);
     connect(single->cmdNowCast, &QToolButton::clicked, this, &frmLogin::cmdNowCast_Click);
+    connect(single->cmdAddCity, &QToolButton::clicked, this, &frmLogin::cmdAdHorCity_Click);
+    connect(cmdUndoDelete, &QPushButton::clicked, this, &frmLogin::UndoDelete);
     for (BirthPanel *p : {single, boy, gal})
         wirePanel(p);
 
@@ -201,8 +217,13 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
         postHint(115);
     });
     Session().ProgMode = 1;
-    if (single->cmbName->count() > 0)
+    if (single->cmbName->count() > 0) {
+        // The first person is selected, and the fields show that person.
+        const QSignalBlocker block(single->cmbName);
         single->cmbName->setCurrentIndex(0);
+        if (const auto row = store().FindPerson(single->cmbName->currentText()))
+            FillFromRecord(single, *row);
+    }
     const QString mode = ini.value(QStringLiteral("Orbanta/StartMode")).toString();
     if (mode == QLatin1String("Marr"))
         cmdMatch_Click();
@@ -229,6 +250,17 @@ void frmLogin::selectLanguage(int index)
 PersonStore frmLogin::store() const { return PersonStore(Session().RecDB); }
 
 void frmLogin::postHint(int number) { lblHints->setText(HintText(number)); }
+
+bool frmLogin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::Enter) {
+        if (watched == cmbLangu)
+            postHint(115);
+        else if (watched == cmdOptions)
+            postHint(116);
+    }
+    return QWidget::eventFilter(watched, event);
+}
 void frmLogin::postText(const QString &text) { lblHints->setText(text); }
 
 void frmLogin::showMessage(const EntryMessage &m)
@@ -290,7 +322,9 @@ void frmLogin::personTyped(BirthPanel *p, const QString &text, bool fill)
 {
     if (text.isEmpty())
         return;
-    const auto row = store().FindByPrefix(text);
+    std::optional<PersonRow> row = fill ? store().FindPerson(text.trimmed()) : std::nullopt;
+    if (!row)
+        row = store().FindByPrefix(text);
     if (!row) {
         postText(text + QStringLiteral(" is not in database, please don't forget to fill in Date, Time & Place of birth."));
         return;
@@ -317,6 +351,7 @@ void frmLogin::FillFromRecord(BirthPanel *p, const PersonRow &r)
     (r.AMPM == 1 ? p->optAM : p->optPM)->setChecked(true);
     p->txtGMT->setText(r.GMTDIFF);
     p->placeZone.clear();
+    p->placeId = 0;
     if (!r.TCorrVal.isNull()) {
         p->cmbTCorr->setCurrentIndex(r.Tcorrinde.toInt());
         p->txtTCorr->setText(r.TCorrVal.toString());
@@ -347,19 +382,46 @@ void frmLogin::countryTyped(BirthPanel *p, const QString &text, bool picked)
         postText(QStringLiteral("If the country is %1, Press 'Enter' to update automatically.").arg(q.value(0).toString()));
 }
 
+namespace {
+const QString kCityColumns = QStringLiteral("rowid, City, Lat, Longy, NOSO, EaWe, Country, GMTDIFF, TimeZone");
+constexpr int kPlaceNameRole = Qt::UserRole + 1;
+
+// "02838" and "N" as the list shows a place's latitude, "28:38 N".
+QString coordinate(const QString &column, const QString &letter)
+{
+    const QString c = column.rightJustified(5, QLatin1Char('0'));
+    return QStringLiteral("%1:%2 %3").arg(static_cast<int>(Val(c.left(3)))).arg(c.right(2), letter);
+}
+} // namespace
+
 void frmLogin::fillPlaces(BirthPanel *p, const QString &country)
 {
     QSqlQuery q(Session().RecDB);
-    q.prepare(QStringLiteral("SELECT City FROM City WHERE Country = ? ORDER BY City"));
+    q.prepare(QStringLiteral("SELECT rowid, City, Lat, Longy, NOSO, EaWe FROM City WHERE Country = ? ORDER BY City, rowid"));
     q.addBindValue(country);
-    QStringList places;
+    struct Place
+    {
+        qint64 id;
+        QString name, where;
+    };
+    std::vector<Place> places;
+    QHash<QString, int> seen;
     if (q.exec())
-        while (q.next())
-            places << q.value(0).toString();
+        while (q.next()) {
+            places.push_back({q.value(0).toLongLong(), q.value(1).toString(),
+                              coordinate(q.value(2).toString(), q.value(4).toString()) + QStringLiteral(", ")
+                                  + coordinate(q.value(3).toString(), q.value(5).toString())});
+            ++seen[places.back().name.toCaseFolded()];
+        }
     const QSignalBlocker block(p->cmbPlace);
     const QString current = p->cmbPlace->currentText();
     p->cmbPlace->clear();
-    p->cmbPlace->addItems(places);
+    for (const Place &place : places) {
+        // Places of one name in one country are told apart by where they lie.
+        const bool shared = seen.value(place.name.toCaseFolded()) > 1;
+        p->cmbPlace->addItem(shared ? QStringLiteral("%1 (%2)").arg(place.name, place.where) : place.name, place.id);
+        p->cmbPlace->setItemData(p->cmbPlace->count() - 1, place.name, kPlaceNameRole);
+    }
     p->cmbPlace->setEditText(current);
 }
 
@@ -368,39 +430,48 @@ void frmLogin::placeTyped(BirthPanel *p, const QString &text, bool picked)
     if (text.isEmpty())
         return;
     QSqlQuery q(Session().RecDB);
-    if (picked) {
-        q.prepare(QStringLiteral("SELECT City, Lat, Longy, NOSO, EaWe, Country, GMTDIFF, TimeZone FROM City WHERE City = ? "
-                                 "AND Country LIKE ? ESCAPE '\\' LIMIT 1"));
-        q.addBindValue(text);
+    const int item = p->cmbPlace->currentIndex();
+    if (picked && item >= 0 && p->cmbPlace->itemText(item) == text) {
+        // A pick from the list: that very row, also where the country has two places of its name.
+        q.prepare(QStringLiteral("SELECT %1 FROM City WHERE rowid = ?").arg(kCityColumns));
+        q.addBindValue(p->cmbPlace->itemData(item));
     } else {
-        q.prepare(QStringLiteral("SELECT City, Lat, Longy, NOSO, EaWe, Country, GMTDIFF, TimeZone FROM City WHERE City LIKE ? ESCAPE '\\' "
-                                 "AND Country LIKE ? ESCAPE '\\' ORDER BY City LIMIT 1"));
-        q.addBindValue(LikePrefix(text));
+        // A shown entry of a shared name is the list's own text: its pick fills the fields.
+        const int shown = p->cmbPlace->findText(text, Qt::MatchExactly);
+        if (!picked && shown >= 0 && p->cmbPlace->itemData(shown, kPlaceNameRole).toString() != text)
+            return;
+        q.prepare(QStringLiteral("SELECT %1 FROM City WHERE City %2 AND Country LIKE ? ESCAPE '\\' ORDER BY City, rowid LIMIT 1")
+                      .arg(kCityColumns, picked ? QStringLiteral("= ?") : QStringLiteral("LIKE ? ESCAPE '\\'")));
+        q.addBindValue(picked ? text : LikePrefix(text));
+        q.addBindValue(LikePrefix(p->cmbCountry->currentText()));
     }
-    q.addBindValue(LikePrefix(p->cmbCountry->currentText()));
     if (!q.exec() || !q.next()) {
         postText(text + QStringLiteral(" is not in database, you'll have to provide Longitude & Latitude manually."));
         p->txtLati->setText(QStringLiteral("000:00"));
         p->txtLongi->setText(QStringLiteral("000:00"));
         p->placeZone.clear();
+        p->placeId = 0;
         return;
     }
-    if (!picked) {
-        postText(QStringLiteral("If the City is %1, Press 'Enter' to update automatically.").arg(q.value(0).toString()));
-        return;
-    }
-    const QString lat = q.value(1).toString().rightJustified(5, QLatin1Char('0'));
-    const QString lon = q.value(2).toString().rightJustified(5, QLatin1Char('0'));
+    const QString name = q.value(1).toString();
+    const QString lat = q.value(2).toString().rightJustified(5, QLatin1Char('0'));
+    const QString lon = q.value(3).toString().rightJustified(5, QLatin1Char('0'));
     p->txtLati->setText(lat.left(3) + QLatin1Char(':') + lat.right(2));
     p->txtLongi->setText(lon.left(3) + QLatin1Char(':') + lon.right(2));
-    p->txtNS->setText(q.value(3).toString());
-    p->txtEW->setText(q.value(4).toString());
+    p->txtNS->setText(q.value(4).toString());
+    p->txtEW->setText(q.value(5).toString());
     {
         const QSignalBlocker block(p->cmbCountry);
-        p->cmbCountry->setEditText(q.value(5).toString());
+        p->cmbCountry->setEditText(q.value(6).toString());
     }
-    p->txtGMT->setText(q.value(6).toString());
-    p->placeZone = q.value(7).toString();
+    p->txtGMT->setText(q.value(7).toString());
+    p->placeZone = q.value(8).toString();
+    p->placeId = q.value(0).toLongLong();
+    if (picked) {
+        const QSignalBlocker block(p->cmbPlace);
+        p->cmbPlace->setEditText(name); // the place's own name, without the coordinates that told it apart
+    }
+    postText(QStringLiteral("If the City is %1, Press 'Enter' to update automatically.").arg(name));
     applyZoneHistory(p);
 }
 
@@ -479,22 +550,23 @@ bool frmLogin::ValidateEntry()
 
 void frmLogin::fillPerson(BirthPanel *p, clsPerson &person, int sex) const
 {
-    const QString date = p->txtDate->text(), time = p->txtTime->text();
+    // Generate has passed ValidateEntry: the boxes read as their checks read them.
+    const BirthValues v = ReadBirthValues(p->Fields()).value_or(BirthValues{});
     person.setName(p->cmbName->currentText().trimmed());
-    person.setDay(Val(date.mid(0, 2)));
-    person.setMonth(Val(date.mid(3, 2)));
-    person.setYear(Val(date.right(4)));
-    person.setHour(Val(time.left(2)));
-    person.setMinutes(Val(time.right(2)));
+    person.setDay(v.day);
+    person.setMonth(v.month);
+    person.setYear(v.year);
+    person.setHour(v.hour);
+    person.setMinutes(v.minute);
     person.setAMPM(p->optAM->isChecked() ? 1 : 2);
     person.setPLOB(p->cmbPlace->currentText());
     person.setSex(sex);
     person.setCountry(p->cmbCountry->currentText());
     person.setGMTDIFF(NumText(GmtTextToHours(p->txtGMT->text())));
-    person.setLatDeg(Val(p->txtLati->text().left(3)));
-    person.setLatMT(Val(p->txtLati->text().right(2)));
-    person.setLongDeg(Val(p->txtLongi->text().left(3)));
-    person.setLongMT(Val(p->txtLongi->text().right(2)));
+    person.setLatDeg(v.latDeg);
+    person.setLatMT(v.latMin);
+    person.setLongDeg(v.lonDeg);
+    person.setLongMT(v.lonMin);
     person.setTextNS(p->txtNS->text());
     person.setTextEW(p->txtEW->text());
     person.setTimeCorr(p->txtTCorr->text());
@@ -522,7 +594,7 @@ bool frmLogin::cmdGenerate_Click()
         s.CurPlanets->setTextDB(s.TextDB, s.RecDB);
         fillPerson(single, s.CurPlanets->Person(), single->optMale->isChecked() ? 1 : 2);
         if (s.ProgMode == 4) {
-            const int age = QDate::currentDate().year() - static_cast<int>(Val(single->txtDate->text().right(4)));
+            const int age = QDate::currentDate().year() - s.CurPlanets->Person().Year();
             s.VarshaYear = age < 1 || age > 99 ? 1 : age;
         }
         s.CurPlanets->Calculate();
@@ -542,14 +614,24 @@ void frmLogin::cmdNowCast_Click()
 
 void frmLogin::FillPersonLists()
 {
-    for (BirthPanel *p : {single, boy, gal}) {
-        const QSignalBlocker block(p->cmbName);
-        p->cmbName->clear();
+    const std::array<BirthPanel *, 3> panels{single, boy, gal};
+    std::array<QString, 3> shown;
+    for (size_t i = 0; i < panels.size(); ++i) {
+        shown[i] = panels[i]->cmbName->currentText();
+        const QSignalBlocker block(panels[i]->cmbName);
+        panels[i]->cmbName->clear();
     }
     for (const auto &[name, sex] : store().PersonNames()) {
         const QSignalBlocker b1(single->cmbName), b2(boy->cmbName), b3(gal->cmbName);
         single->cmbName->addItem(name);
         (sex == 1 ? boy : gal)->cmbName->addItem(name);
+    }
+    // Each name box keeps the name it showed, so that it still names the person of the fields.
+    for (size_t i = 0; i < panels.size(); ++i) {
+        QComboBox *box = panels[i]->cmbName;
+        const QSignalBlocker block(box);
+        box->setCurrentIndex(box->findText(shown[i], Qt::MatchFixedString));
+        box->setEditText(shown[i]);
     }
 }
 
@@ -561,32 +643,112 @@ PersonRow frmLogin::rowFromPanel(BirthPanel *p, const QString &name) const
                                  p->cmbTCorr->currentIndex());
 }
 
+bool frmLogin::checkBeforeStoring(const QString &name, const QString &title)
+{
+    if (name.isEmpty()) {
+        showMessage({0, QStringLiteral("Please type the person's name first."), title});
+        return false;
+    }
+    // What is stored must cast: the fields pass Generate's checks first.
+    const std::vector<EntryMessage> refused = ::ValidateEntry(single->Fields());
+    for (const EntryMessage &m : refused)
+        showMessage(m);
+    return refused.empty();
+}
+
 void frmLogin::SavePerson()
 {
     const QString name = single->cmbName->currentText().trimmed();
-    if (name.isEmpty())
+    if (!checkBeforeStoring(name, QStringLiteral("Save")))
         return;
     const StoreResult r = store().SavePerson(rowFromPanel(single, name));
     if (!r.ok) {
         showMessage({0, r.message, QStringLiteral("Orbanta")});
         return;
     }
+    {
+        const QSignalBlocker block(single->cmbName);
+        single->cmbName->setEditText(name);
+    }
     FillPersonLists();
-    const QSignalBlocker block(single->cmbName);
-    single->cmbName->setEditText(name);
     postHint(117);
 }
 
 void frmLogin::DeletePerson()
 {
     const QString name = single->cmbName->currentText().trimmed();
+    const std::optional<PersonRow> row = name.isEmpty() ? std::nullopt : store().FindPerson(name);
+    if (!row) {
+        showMessage({0,
+                     name.isEmpty() ? QStringLiteral("Please choose the person to delete first.")
+                                    : QStringLiteral("%1 is not in the database; nothing was deleted.").arg(name),
+                     QStringLiteral("Delete")});
+        return;
+    }
     const StoreResult r = store().DeletePerson(name);
     if (!r.ok) {
         showMessage({0, r.message, QStringLiteral("Orbanta")});
         return;
     }
+    // The record can be brought back until the next delete.
+    m_deleted = *row;
+    cmdUndoDelete->show();
     FillPersonLists();
     postHint(118);
+}
+
+void frmLogin::UndoDelete()
+{
+    if (!m_deleted)
+        return;
+    const StoreResult r = store().InsertRow(*m_deleted);
+    if (!r.ok) {
+        showMessage({0, r.message, QStringLiteral("Orbanta")});
+        return;
+    }
+    const PersonRow back = *m_deleted;
+    m_deleted.reset();
+    cmdUndoDelete->hide();
+    {
+        const QSignalBlocker block(single->cmbName);
+        single->cmbName->setEditText(back.Name);
+    }
+    FillPersonLists();
+    FillFromRecord(single, back);
+    postText(QStringLiteral("%1 is back in the database.").arg(back.Name));
+}
+
+void frmLogin::cmdAdHorCity_Click()
+{
+    BirthPanel *p = single;
+    const CityFields f{p->cmbPlace->currentText().trimmed(),
+                       clsCity::BoxToColumn(p->txtLati->text()),
+                       clsCity::BoxToColumn(p->txtLongi->text()),
+                       p->txtNS->text(),
+                       p->txtEW->text(),
+                       p->cmbCountry->currentText().trimmed(),
+                       p->txtGMT->text()};
+    if (!ParseEntryAngle(p->txtLati->text()) || !ParseEntryAngle(p->txtLongi->text())) {
+        showMessage({0, QStringLiteral("Please fill the latitude and longitude of the place first."), QStringLiteral("Orbanta")});
+        return;
+    }
+    clsCity cities(Session().RecDB);
+    // The place rewrites its own row: the one picked from the list, or the only one of its name
+    // in its country. Otherwise it is a new place, and two places of one name both stay.
+    const std::vector<int> rows = cities.RowsOfPlace(f.City, f.Country);
+    int row = -1;
+    for (int r : rows)
+        if (p->placeId != 0 && cities.RowId(r) == p->placeId)
+            row = r;
+    if (row < 0 && rows.size() == 1)
+        row = rows.front();
+    const AtlasEditResult r = row >= 0 ? cities.ChangeCity(row, f) : cities.AddCity(f);
+    if (!r.ok) {
+        showMessage({0, r.text, r.title});
+        return;
+    }
+    fillPlaces(p, f.Country);
+    postText(QStringLiteral("%1, %2 is saved in the atlas.").arg(f.City, f.Country));
 }
 
 void frmLogin::ExportPersonFile()
@@ -595,7 +757,7 @@ void frmLogin::ExportPersonFile()
                                                       single->cmbName->currentText().trimmed() + QStringLiteral(".JKP"),
                                                       QStringLiteral("Person Details (*.JKP)"));
     if (!file.isEmpty())
-        ExportPersonFileTo(file);
+        ExportPersonFileTo(WithExtension(file, QStringLiteral(".JKP")));
 }
 
 void frmLogin::ExportPersonDB()
@@ -603,7 +765,7 @@ void frmLogin::ExportPersonDB()
     const QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Save Database To File"), QStringLiteral("Untitled.JKD"),
                                                       QStringLiteral("JKD Database (*.JKD)"));
     if (!file.isEmpty())
-        ExportPersonDBTo(file);
+        ExportPersonDBTo(WithExtension(file, QStringLiteral(".JKD")));
 }
 
 void frmLogin::ImportPersons(bool whole)
@@ -615,8 +777,15 @@ void frmLogin::ImportPersons(bool whole)
         ImportPersonsFrom(file);
 }
 
+QString frmLogin::WithExtension(const QString &file, const QString &extension)
+{
+    return QFileInfo(file).suffix().isEmpty() ? file + extension : file;
+}
+
 bool frmLogin::ExportPersonFileTo(const QString &file)
 {
+    if (!checkBeforeStoring(single->cmbName->currentText().trimmed(), QStringLiteral("Save to File")))
+        return false;
     const QString tmpl = DataPaths::StuffFolder() + QStringLiteral("/COMMON/ExpTemp.JKP");
     const StoreResult r = PersonStore::ExportPersons(tmpl, {rowFromPanel(single, single->cmbName->currentText().trimmed())}, file);
     if (!r.ok)

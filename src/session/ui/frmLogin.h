@@ -36,6 +36,12 @@ public:
     void FillPersonLists();
     void SavePerson();
     void DeletePerson();
+    // Brings back the person deleted last; possible until the next delete.
+    void UndoDelete();
+    // Writes the shown place into the atlas.
+    void cmdAdHorCity_Click();
+    // file with extension added when it has none.
+    static QString WithExtension(const QString &file, const QString &extension);
     // The exchange files, with their dialogs; the *To/*From forms take the path directly.
     void ExportPersonFile();
     void ExportPersonDB();
@@ -54,6 +60,7 @@ public:
     QComboBox *cmbLangu;
     QPushButton *cmdHoroscope, *cmdMatch, *cmdVarshaphala, *cmdGenerate, *cmdOptions;
     QLabel *lblHints;
+    QPushButton *cmdUndoDelete;
     QToolBar *tbTools;
 
 Q_SIGNALS:
@@ -61,7 +68,13 @@ Q_SIGNALS:
     void generated();
     void optionsRequested();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    // The name must be there and the fields pass Generate's checks before a person is stored.
+    bool checkBeforeStoring(const QString &name, const QString &title);
+    std::optional<PersonRow> m_deleted;
     // Takes the language of list entry index: its sizes and its text database.
     void selectLanguage(int index);
     std::vector<LanguageRow> m_languages;
