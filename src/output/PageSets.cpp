@@ -13,7 +13,10 @@ namespace PageSets {
 
 QString FileOf(const QString &name, int progMode)
 {
-    return QDir(DataPaths::UserFolder()).filePath(QStringLiteral("INIFILES/%1%2.ini").arg(name).arg(progMode));
+    // The name is the user's: it is escaped so that it names one file inside INIFILES and no
+    // other place ("../x" becomes "..%2Fx").
+    const QString safe = QString::fromLatin1(name.toUtf8().toPercentEncoding(" "));
+    return QDir(DataPaths::UserFolder()).filePath(QStringLiteral("INIFILES/%1%2.ini").arg(safe).arg(progMode));
 }
 
 QStringList Names(const QSqlDatabase &db, int progMode)

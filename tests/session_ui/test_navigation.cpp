@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QMenu>
+#include <QTest>
 #include <QTreeWidget>
 
 namespace {
@@ -62,10 +63,19 @@ TEST_F(Navigation, GenerateOpensGeneralDetailsAndEveryRouteAgrees)
     expectShowing(2);
     Q_EMIT window->bBar->ItemClick(5);
     expectShowing(5);
-    Q_EMIT window->tvMap->itemClicked(window->tvMap->topLevelItem(4), 0);
+    // The tree by mouse, then by keyboard: the arrows move the page, list and bar with it.
+    window->show();
+    QWidget *tree = window->tvMap->viewport();
+    QTest::mouseClick(tree, Qt::LeftButton, {}, window->tvMap->visualItemRect(window->tvMap->topLevelItem(4)).center());
     expectShowing(4);
-    window->mnuNavPrev->trigger();
+    window->tvMap->setFocus();
+    QTest::keyClick(window->tvMap, Qt::Key_Down);
+    expectShowing(5);
+    QTest::keyClick(window->tvMap, Qt::Key_Up);
+    QTest::keyClick(window->tvMap, Qt::Key_Up);
     expectShowing(3);
+    window->mnuNavPrev->trigger();
+    expectShowing(2);
     // "7. Bhav Table && Chakra" leads to the Bhava page, "1. General Details" to the first.
     menuItem(window->mnuHorNav, 6)->trigger();
     EXPECT_EQ(window->activePage()->objectName(), "frmBhav");

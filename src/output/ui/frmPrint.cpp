@@ -231,7 +231,6 @@ bool frmPrint::cmdPrint_Click(const QString &file)
 {
     const SessionGlobals &s = Session();
     Output().PrintAbort = false;
-    Output().PageCounter = 1;
     const QList<PrintStep> steps = SelectedSteps(s.ProgMode, s.Language.Extended, tickedKeys());
 
     clsPDFExporter pdf;
@@ -260,6 +259,8 @@ bool frmPrint::cmdPrint_Click(const QString &file)
             return false;
     }
 
+    // Numbering starts once the output is open: opening a PDF resets the counter.
+    Output().PageCounter = 1;
     frmStatus status(this);
     m_mode == 3 ? status.PDFStatus() : status.PrintStatus();
     status.show();

@@ -254,7 +254,8 @@ QPixmap frmWizard::StepPicture(int n, const QSize &size)
     return pm;
 }
 
-frmWizard::frmWizard(QWidget *parent) : QDialog(parent)
+frmWizard::frmWizard(QWidget *parent)
+    : QDialog(parent), m_rerun(AppSettings::value(kSettings, QStringLiteral("DoneSetup"), false).toBool())
 {
     setObjectName(QStringLiteral("frmWizard"));
     setWindowTitle(QStringLiteral("Orbanta Setup Wizard"));
@@ -337,13 +338,16 @@ void frmWizard::buildSteps()
     optKP = option("optKP", QStringLiteral("&Krishnamurthy(KP)"), nullptr);
     optSayan = option("optSayan", QStringLiteral("&Sayan (Without Ayanamsh)"), nullptr);
     optAyanVakya = option("optAyanVakya", QStringLiteral("Vakya Ayanamsh"), nullptr);
+    // An ayanamsh chosen in the settings that the wizard does not list is kept as it is.
+    optAyanKeep = option("optAyanKeep", QStringLiteral("Keep the current one"), nullptr);
+    optAyanKeep->hide();
     {
         auto *row = new QHBoxLayout;
         row->setSpacing(10);
         auto *styles = group(QStringLiteral("Kundli Style"), {optNorthKundli, optEastKundli, optSouthKundli});
         static_cast<QVBoxLayout *>(styles->layout())->addStretch(1);
         row->addWidget(styles, 1);
-        row->addWidget(group(QStringLiteral("Ayanamsh"), {optLahiri, optRaman, optKP, optSayan, optAyanVakya}), 1);
+        row->addWidget(group(QStringLiteral("Ayanamsh"), {optLahiri, optRaman, optKP, optSayan, optAyanVakya, optAyanKeep}), 1);
         b->addLayout(row);
     }
     b->addWidget(para(QStringLiteral(
@@ -428,8 +432,13 @@ void frmWizard::loadAnswers()
     case 15:
         check(optAyanVakya);
         break;
-    default:
+    case 1:
         check(optLahiri);
+        break;
+    default:
+        optAyanKeep->setText(QStringLiteral("Keep the current one (choice %1 of the Ayanamsh settings)").arg(AppSettings::AyanType()));
+        optAyanKeep->show();
+        check(optAyanKeep);
         break;
     }
     check(AppSettings::RahuKetuMode() == 2 ? optRahuTrue : optRahuMean);
@@ -456,12 +465,14 @@ void frmWizard::cmdFinish_Click()
     clsIni::WriteIniString(QStringLiteral("DispName"), txtName->text());
     clsIni::WriteIniString(QStringLiteral("DispAdd"), txtAddress->toPlainText());
     AppSettings::setValue(kInit, QStringLiteral("RahuKetuMode"), optRahuMean->isChecked() ? 1 : 2);
-    const int ayan = optLahiri->isChecked()  ? 1
-                     : optRaman->isChecked() ? 2
-                     : optKP->isChecked()    ? 3
-                     : optSayan->isChecked() ? 12
-                                             : 15;
-    AppSettings::setValue(kInit, QStringLiteral("AyanType"), ayan);
+    if (!optAyanKeep->isChecked()) {
+        const int ayan = optLahiri->isChecked()  ? 1
+                         : optRaman->isChecked() ? 2
+                         : optKP->isChecked()    ? 3
+                         : optSayan->isChecked() ? 12
+                                                 : 15;
+        AppSettings::setValue(kInit, QStringLiteral("AyanType"), ayan);
+    }
     AppSettings::setValue(kInit, QStringLiteral("KundStyle"),
                           optNorthKundli->isChecked()  ? 0
                           : optEastKundli->isChecked() ? 1
@@ -479,10 +490,12 @@ void frmWizard::cmdCancel_Click()
     if (m_ended)
         return;
     m_ended = true;
+    // Run again from the menu, Cancel leaves the settings in force, and says so.
     frmMessage::Notify(this, QMessageBox::Information, QStringLiteral("Setup not completed"),
-                       QStringLiteral("You have chosen to cancel Setup Wizard, ") + QStringLiteral("Orbanta") +
-                           QStringLiteral(" will run on default settings.") + QLatin1Char('\n') +
-                           QStringLiteral("You can run Setup Wizard later by clicking on 'Settings-->Setup Wizard.'"));
+                       m_rerun ? QStringLiteral("You have chosen to cancel Setup Wizard; the settings stay as they were.")
+                               : QStringLiteral("You have chosen to cancel Setup Wizard, ") + QStringLiteral("Orbanta") +
+                                     QStringLiteral(" will run on default settings.") + QLatin1Char('\n') +
+                                     QStringLiteral("You can run Setup Wizard later by clicking on 'Settings-->Setup Wizard.'"));
     AppSettings::setValue(kSettings, QStringLiteral("DoneSetup"), true);
     QDialog::reject();
 }

@@ -36,6 +36,8 @@ public:
     std::array<QFrame *, kSteps> frmSteps{}; // frmStep1 .. frmStep5, frmStepVakya, frmStepFinal
     QRadioButton *optNorthKundli, *optEastKundli, *optSouthKundli;
     QRadioButton *optLahiri, *optRaman, *optKP, *optSayan, *optAyanVakya;
+    // Shown only when the ayanamsh in force is none of the five above.
+    QRadioButton *optAyanKeep;
     QRadioButton *optRahuMean, *optRahuTrue;
     QLineEdit *txtName;
     QPlainTextEdit *txtAddress;
@@ -54,5 +56,6 @@ private:
 
     int m_step = 1;
     bool m_ended = false;
+    bool m_rerun = false; // setup was done before: the wizard runs again from the menu
     std::array<QPixmap, kSteps> m_pictures; // imgStep1 .. imgStep5, imgVakya, imgLastScreen
 };

@@ -144,9 +144,10 @@ mdiMother::mdiMother(QWidget *parent) : QMainWindow(parent)
     connect(m_login, &frmLogin::optionsRequested, this, &mdiMother::wizardRequested);
     connect(cmbTopic, &QComboBox::currentIndexChanged, this, &mdiMother::cmbTopic_Click);
     connect(bBar, &BottomBar::ItemClick, this, &mdiMother::SelectTopic);
-    connect(tvMap, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem *item) {
-        const int index = tvMap->indexOfTopLevelItem(item);
-        if (index != cmbTopic->currentIndex())
+    // The tree leads to its topic by mouse and by keyboard alike.
+    connect(tvMap, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+        const int index = item ? tvMap->indexOfTopLevelItem(item) : -1;
+        if (index >= 0 && index != cmbTopic->currentIndex())
             SelectTopic(index);
     });
 
@@ -251,10 +252,16 @@ void mdiMother::buildMenus()
     tbTopicMap->setCheckable(true);
     connect(tbTopicMap, &QAction::triggered, this, [this] { ToggleSideList(); });
     m_tools->addSeparator();
-    connect(tool("PrintTopic", "Print Topic", QStyle::SP_FileDialogDetailedView), &QAction::triggered, this,
-            &mdiMother::PrintCurrentTopic);
-    connect(tool("Print", "Print", QStyle::SP_DialogSaveButton), &QAction::triggered, this, &mdiMother::PrintIt);
-    connect(tool("PDFExport", "PDF", QStyle::SP_DriveFDIcon), &QAction::triggered, this, &mdiMother::ExportPDF);
+    QAction *printTopic = tool("PrintTopic", "Print Topic", QStyle::SP_FileDialogDetailedView);
+    QAction *print = tool("Print", "Print", QStyle::SP_DialogSaveButton);
+    QAction *pdf = tool("PDFExport", "PDF", QStyle::SP_DriveFDIcon);
+    connect(printTopic, &QAction::triggered, this, &mdiMother::PrintCurrentTopic);
+    connect(print, &QAction::triggered, this, &mdiMother::PrintIt);
+    connect(pdf, &QAction::triggered, this, &mdiMother::ExportPDF);
+    // Output and stepping act on topics: they wait until a session has some.
+    m_outputActions << printTopic << print << pdf << tbPrevious << tbNext << mnuNavPrev << mnuNavNext;
+    for (QAction *a : m_outputActions)
+        a->setEnabled(false);
     m_tools->addSeparator();
     m_tools->addWidget(new QLabel(QStringLiteral(" Topic ")));
     m_tools->addWidget(cmbTopic);
@@ -266,9 +273,10 @@ void mdiMother::buildMenus()
     m_years->setObjectName(QStringLiteral("cmbYearList"));
     m_yearBar->addWidget(m_years);
     m_yearBar->setVisible(false);
+    // The list holds the birth year and the 99 after it: the index is the age of the year.
     connect(m_years, &QComboBox::currentIndexChanged, this, [](int i) {
         if (i >= 0)
-            Session().VarshaYear = i + 1;
+            Session().VarshaYear = i;
     });
 }
 
