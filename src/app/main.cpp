@@ -1,55 +1,78 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
+#include "app/TopicPages.h"
+#include "app/mdiMother.h"
+#include "cli/ChartCommand.h"
 #include "cli/CommandLine.h"
 #include "output/ui/PdfCommand.h"
 #include "session/ui/MessageBoxSink.h"
 #include "session/ui/frmSplash.h"
-#include "session/ui/mdiMother.h"
 
 #include <QApplication>
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <array>
 #include <memory>
+
+namespace {
+
+// The verbs of the command line, in the order its usage lists them.
+constexpr std::array kVerbs{
+    CliVerb{"chart", "Cast a chart and print it as a table or as JSON.", false, RunChartCommand},
+    CliVerb{"pdf", "Write chosen topics of the horoscope to a PDF file.", true, RunPdfCommand},
+};
+
+void nameApplication()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Orbanta"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORBANTA_VERSION));
+}
+
+int runCommandLine(const QStringList &args)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    return RunCommandLine(kVerbs, args, out, err);
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
     // Every degree and time value passes through its text form with a "." for the decimal point.
     QLocale::setDefault(QLocale::c());
+    RegisterTopicPages();
 
     QStringList args;
     for (int i = 1; i < argc; ++i)
         args << QString::fromLocal8Bit(argv[i]);
-    if (!args.isEmpty() && args.first() == QLatin1String("pdf")) {
-        // Pages are widgets: they are drawn without a screen on the offscreen platform.
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        QApplication app(argc, argv);
-        QApplication::setApplicationName(QStringLiteral("Orbanta"));
-        QApplication::setApplicationVersion(QStringLiteral(ORBANTA_VERSION));
-        QTextStream out(stdout);
-        QTextStream err(stderr);
-        return RunPdfCommand(args.mid(1), out, err);
-    }
-    if (IsCommandLineMode(args)) {
+    if (!args.isEmpty()) {
+        // Any argument is the command line, which never opens a window.
+        const CliRequest request = ReadCliRequest(kVerbs, args);
+        if (request.verb && request.verb->drawsPages) {
+            // Pages are widgets: they are drawn without a screen on the offscreen platform.
+            if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+                qputenv("QT_QPA_PLATFORM", "offscreen");
+            QApplication app(argc, argv);
+            nameApplication();
+            return runCommandLine(args);
+        }
         QCoreApplication app(argc, argv);
-        QCoreApplication::setApplicationName(QStringLiteral("Orbanta"));
-        QCoreApplication::setApplicationVersion(QStringLiteral(ORBANTA_VERSION));
-        QTextStream out(stdout);
-        QTextStream err(stderr);
-        return RunCommandLine(args, out, err);
+        nameApplication();
+        return runCommandLine(args);
     }
 
     QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Orbanta"));
-    QApplication::setApplicationVersion(QStringLiteral(ORBANTA_VERSION));
+    nameApplication();
     MessageBoxSink boxes;
     const ScopedMessageSink answerWithBoxes(&boxes);
     frmSplash splash;
     splash.show();
-    std::unique_ptr<mdiMother> main(splash.DoLoad());
+    const bool loaded = splash.DoLoad();
     splash.close();
-    if (!main)
+    if (!loaded)
         return 1;
-    main->show();
+    mdiMother main;
+    main.show();
     return QApplication::exec();
 }

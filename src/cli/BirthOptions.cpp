@@ -1,9 +1,5 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "cli/CommandLine.h"
-
-#include "dasha/clsDashaVimshottari.h"
-#include "strength/clsShadBala.h"
-#include "yoga/CheckYogas.h"
+#include "cli/BirthOptions.h"
 
 #include "session/AppSettings.h"
 #include "session/AtlasLookup.h"
@@ -18,12 +14,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
-
-#include <array>
 
 namespace {
 
@@ -75,17 +66,6 @@ InputError entryError(int number, const QString &title)
     return {messageLine(m)};
 }
 
-inline constexpr std::array<const char *, 13> kPlanetNames{
-    "Lagna", "Sun", "Mercury", "Venus", "Mars", "Jupiter", "Saturn", "Moon", "Rahu", "Ketu", "Uranus", "Neptune", "Pluto"};
-inline constexpr std::array<const char *, 12> kSignNames{
-    "Aries", "Taurus", "Gemini", "Cancer", "Leo", "Virgo", "Libra", "Scorpio", "Sagittarius", "Capricorn", "Aquarius", "Pisces"};
-
-const QString kUsage = QStringLiteral(
-    "Usage: orbanta chart --date DD/MM/YYYY --time HH.MM --lat DDD:MM{N|S} --lon DDD:MM{E|W}\n"
-    "                     --gmt {+|-}HH.MM [--name TEXT] [--sex M|F] [--tcorr {+|-}HH.MM]\n"
-    "   or: orbanta chart --date DD/MM/YYYY --time HH.MM --place NAME[,COUNTRY] [the same options]\n"
-    "                     [--ayanamsa N] [--node mean|true] [--vakya] [--json]\n");
-
 // The birth as the entry screen's masked boxes would hold it.
 struct Birth
 {
@@ -125,13 +105,15 @@ void placeFields(const QString &text, Birth &b)
     const AtlasMatch match = atlas.Resolve(text);
     if (match.outcome != AtlasMatch::Found) {
         QStringList lines{match.outcome == AtlasMatch::Ambiguous
-                              ? QStringLiteral("\"%1\" names several places; add the country or choose by coordinates:").arg(text)
+                              ? QStringLiteral("\"%1\" could be several places; add the country or choose by coordinates:").arg(text)
                               : QStringLiteral("\"%1\" is not in the atlas.").arg(text)};
         if (match.outcome == AtlasMatch::NotFound && !match.candidates.empty())
             lines << QStringLiteral("Places that start alike:");
         for (const AtlasPlace *c : match.candidates)
             lines << QStringLiteral("  %1, %2  (%3:%4 %5  %6:%7 %8)")
                          .arg(c->City, c->Country, c->Lat.left(3), c->Lat.right(2), c->NOSO, c->Longy.left(3), c->Longy.right(2), c->EaWe);
+        if (match.more > 0)
+            lines << QStringLiteral("  and %1 more.").arg(match.more);
         throw InputError{lines.join(QLatin1Char('\n'))};
     }
     const AtlasPlace &place = *match.place;
@@ -157,7 +139,7 @@ void placeFields(const QString &text, Birth &b)
 }
 
 // Brings "d/m/yyyy", "h.mm", "dd:mmN" forms to the masks, or reports the field's own message.
-Birth readBirth(const QCommandLineParser &p)
+Birth readBirth(const QCommandLineParser &p, const QString &usage)
 {
     const bool byPlace = p.isSet(QStringLiteral("place"));
     if (byPlace && (p.isSet(QStringLiteral("lat")) || p.isSet(QStringLiteral("lon")) || p.isSet(QStringLiteral("gmt"))))
@@ -170,7 +152,7 @@ Birth readBirth(const QCommandLineParser &p)
         if (!p.isSet(opt))
             missing << QStringLiteral("--") + opt;
     if (!missing.isEmpty())
-        throw InputError{QStringLiteral("Missing ") + missing.join(QStringLiteral(", ")) + QStringLiteral(".\n") + kUsage};
+        throw InputError{QStringLiteral("Missing ") + missing.join(QStringLiteral(", ")) + QStringLiteral(".\n") + usage};
 
     Birth b;
     b.name = p.value(QStringLiteral("name")).trimmed();
@@ -296,129 +278,6 @@ void applyOverrides(const QCommandLineParser &p)
         AppSettings::overrideForRun(QStringLiteral("Init"), QStringLiteral("Vakya"), true);
 }
 
-QJsonObject chartJson(const clsPlanets &chart)
-{
-    const clsPerson &person = chart.Person();
-    QJsonObject o;
-    o.insert(QStringLiteral("person"), QJsonObject{
-                                           {QStringLiteral("name"), person.Name()},
-                                           {QStringLiteral("day"), static_cast<qint64>(person.Day())},
-                                           {QStringLiteral("month"), static_cast<qint64>(person.Month())},
-                                           {QStringLiteral("year"), static_cast<qint64>(person.Year())},
-                                           {QStringLiteral("hour"), static_cast<qint64>(person.Hour())},
-                                           {QStringLiteral("minutes"), static_cast<qint64>(person.Minutes())},
-                                       });
-    o.insert(QStringLiteral("ayanamsa_type"), chart.AyanType());
-    o.insert(QStringLiteral("ayanamsa"), chart.PlanetLongi(13));
-    o.insert(QStringLiteral("kp_ayanamsa"), chart.KPAyanVal());
-    o.insert(QStringLiteral("obliquity"), chart.Obliq());
-    o.insert(QStringLiteral("sidereal_time"), chart.SidrealTime());
-    QJsonArray planets;
-    for (int n = 0; n <= 12; ++n) {
-        QJsonObject pl{{QStringLiteral("n"), n}, {QStringLiteral("longitude"), chart.PlanetLongi(n)}};
-        if (n != 0)
-            pl.insert(QStringLiteral("next"), chart.PlanetLongi(n + 13));
-        pl.insert(QStringLiteral("retrograde"), chart.RetroGrade(n));
-        planets.append(pl);
-    }
-    o.insert(QStringLiteral("planets"), planets);
-    QJsonArray cusps;
-    for (int i = 1; i <= 12; ++i)
-        cusps.append(chart.KPHouse(i));
-    o.insert(QStringLiteral("kp_cusps"), cusps);
-    o.insert(QStringLiteral("sunrise"), chart.SunRiseTime());
-    o.insert(QStringLiteral("sunset"), chart.SunSetTime());
-    QJsonArray mids, begins;
-    for (int i = 0; i <= 12; ++i) {
-        mids.append(chart.BhavMid(i));
-        begins.append(chart.BhavBegin(i));
-    }
-    o.insert(QStringLiteral("bhava_mid"), mids);
-    o.insert(QStringLiteral("bhava_begin"), begins);
-    o.insert(QStringLiteral("panchang"), QJsonObject{
-                                             {QStringLiteral("tithi"), chart.Tithi()},
-                                             {QStringLiteral("nakshatra"), chart.Nakshatra()},
-                                             {QStringLiteral("pada"), chart.Pada()},
-                                             {QStringLiteral("yoga"), chart.YogaNumber()},
-                                             {QStringLiteral("karana"), chart.KaranNumber()},
-                                             {QStringLiteral("weekday_lord"), chart.WeekDayLord()},
-                                             {QStringLiteral("rashi"), chart.RashiNum()},
-                                         });
-    QJsonArray vargas;
-    for (int k = 0; k < 18; ++k) {
-        QJsonArray row;
-        for (int n = 0; n <= 12; ++n) {
-            const std::optional<int> sign = chart.PrediVargaValue(n, k);
-            row.append(sign ? QJsonValue(*sign) : QJsonValue(QJsonValue::Null));
-        }
-        vargas.append(row);
-    }
-    o.insert(QStringLiteral("vargas"), vargas);
-    QJsonArray mahas;
-    for (const DashaPeriod &m : Vimshottari::Mahas(chart))
-        mahas.append(QJsonObject{{QStringLiteral("lord"), m.Lord},
-                                 {QStringLiteral("start"), m.Start.toString(QStringLiteral("dd/MM/yyyy hh:mm"))},
-                                 {QStringLiteral("years"), m.Years}});
-    o.insert(QStringLiteral("vimshottari"), mahas);
-    chart.AshTable();
-    QJsonArray ashVarga, ashTotal;
-    for (int varga = 0; varga <= 8; ++varga) {
-        QJsonArray row;
-        for (int s = 1; s <= 12; ++s)
-            row.append(chart.AshVarga(varga, s));
-        ashVarga.append(row);
-    }
-    for (int s = 1; s <= 12; ++s)
-        ashTotal.append(chart.AshTotal(s));
-    clsShadBala sb(chart);
-    QJsonArray shadbala;
-    for (int p = 1; p <= 7; ++p)
-        shadbala.append(QJsonObject{{QStringLiteral("planet"), p},
-                                    {QStringLiteral("sthana"), sb.SBSthanaBala(p)},
-                                    {QStringLiteral("dik"), sb.SBDikBala(p).toDouble()},
-                                    {QStringLiteral("kala"), sb.SBKaalaBala(p).toDouble()},
-                                    {QStringLiteral("chesta"), sb.SBChestaBala(p)},
-                                    {QStringLiteral("naisargika"), sb.SBNaisargikaBala(p)},
-                                    {QStringLiteral("drig"), sb.SBDrigBala(p).toDouble()},
-                                    {QStringLiteral("total"), sb.TotalShadBala(p).toDouble()},
-                                    {QStringLiteral("rupas"), sb.RupaShadbala(p).toDouble()}});
-    o.insert(QStringLiteral("shadbala"), shadbala);
-    QJsonArray yogas;
-    for (const QString &key : CheckYogas::NameKeys(CheckYogas::ScanYogas(chart)))
-        yogas.append(key);
-    o.insert(QStringLiteral("yogas"), yogas);
-    o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
-    return o;
-}
-
-void writeTable(const clsPlanets &chart, QTextStream &out)
-{
-    const clsPerson &p = chart.Person();
-    out << "Name      : " << (p.Name().isEmpty() ? QStringLiteral("-") : p.Name()) << '\n';
-    out << "Born      : " << p.DayText() << '/' << p.MonthText() << '/' << p.Year() << ' ' << p.GetBirthTime()
-        << "  GMT " << p.GMTDIFF() << "  " << p.GetLatitudeFull() << "  " << p.GetLongitudeFull() << '\n';
-    out << "Ayanamsa  : " << clsPlanets::DecToDeg(chart.PlanetLongi(13)) << "  (choice " << chart.AyanType() << ")\n\n";
-    out << QStringLiteral("%1 %2 %3 %4 %5\n")
-               .arg(QStringLiteral("Planet"), -9)
-               .arg(QStringLiteral("Longitude"), -11)
-               .arg(QStringLiteral("Sign"), -12)
-               .arg(QStringLiteral("In sign"), -10)
-               .arg(QStringLiteral("Motion"));
-    for (int n = 0; n <= 12; ++n) {
-        const double l = chart.PlanetLongi(n);
-        const int sign = static_cast<int>(Int(l / 30)) % 12;
-        QString motion = QStringLiteral("-");
-        if (n != 0)
-            motion = chart.RetroGrade(n) ? QStringLiteral("R") : QStringLiteral("D");
-        out << QStringLiteral("%1 %2 %3 %4 %5\n")
-                   .arg(QString::fromLatin1(kPlanetNames[static_cast<size_t>(n)]), -9)
-                   .arg(clsPlanets::DecToDeg(l), -11)
-                   .arg(QString::fromLatin1(kSignNames[static_cast<size_t>(sign)]), -12)
-                   .arg(clsPlanets::ConvertValNoDeg(l - sign * 30.0), -10)
-                   .arg(motion);
-    }
-}
-
 } // namespace
 
 int RunWithChart(const QStringList &args, QTextStream &out, QTextStream &err, const QList<QCommandLineOption> &extra,
@@ -456,7 +315,7 @@ int RunWithChart(const QStringList &args, QTextStream &out, QTextStream &err, co
     }
     int status = 0;
     try {
-        const Birth birth = readBirth(p);
+        const Birth birth = readBirth(p, usage);
         applyOverrides(p);
         if (AppSettings::Vakya())
             if (const auto m = CheckVakyaLatitude(birth.fields.latitude))
@@ -485,33 +344,3 @@ int RunWithChart(const QStringList &args, QTextStream &out, QTextStream &err, co
     return status;
 }
 
-namespace {
-int runChart(const QStringList &args, QTextStream &out, QTextStream &err)
-{
-    return RunWithChart(args, out, err, {{QStringLiteral("json"), QStringLiteral("Print one JSON object.")}}, kUsage,
-                        [&out](const QCommandLineParser &p, std::unique_ptr<clsPlanets> &chart, QSqlDatabase &) {
-                            if (p.isSet(QStringLiteral("json")))
-                                out << QJsonDocument(chartJson(*chart)).toJson(QJsonDocument::Compact) << '\n';
-                            else
-                                writeTable(*chart, out);
-                            return 0;
-                        });
-}
-
-} // namespace
-
-bool IsCommandLineMode(const QStringList &args)
-{
-    return !args.isEmpty() && (args.first() == QLatin1String("chart") || args.first() == QLatin1String("pdf"));
-}
-
-int RunCommandLine(const QStringList &args, QTextStream &out, QTextStream &err)
-{
-    if (args.isEmpty())
-        return 2;
-    const QString command = args.first();
-    if (command == QLatin1String("chart"))
-        return runChart(args.mid(1), out, err);
-    err << "Unknown command: " << command << '\n';
-    return 2;
-}

@@ -215,6 +215,10 @@ AtlasMatch AtlasLookup::Resolve(const QString &text, int maxCandidates) const
         } else if (places.size() > 1) {
             match.outcome = AtlasMatch::Ambiguous;
             match.candidates = std::move(places);
+            if (maxCandidates > 0 && int(match.candidates.size()) > maxCandidates) {
+                match.more = int(match.candidates.size()) - maxCandidates;
+                match.candidates.resize(size_t(maxCandidates));
+            }
         }
         return match.outcome != AtlasMatch::NotFound;
     };
@@ -228,25 +232,34 @@ AtlasMatch AtlasLookup::Resolve(const QString &text, int maxCandidates) const
     if (comma >= 0) {
         name = whole.left(comma).trimmed();
         country = Fold(whole.mid(comma + 1).trimmed());
-        const std::vector<const AtlasPlace *> named = exactNames(Fold(name));
-        // A full country name picks that country alone; otherwise it is a prefix.
-        std::vector<const AtlasPlace *> same;
-        std::vector<const AtlasPlace *> starting;
-        for (const AtlasPlace *p : named) {
-            const QString c = Fold(p->Country);
-            if (c == country)
-                same.push_back(p);
-            else if (c.startsWith(country))
-                starting.push_back(p);
-        }
-        if (settle(same.empty() ? starting : same))
+        if (settle(ofCountry(exactNames(Fold(name)), country)))
             return match;
     }
 
-    match.candidates = FindPlaces(name, country, maxCandidates);
-    if (match.candidates.empty() && !country.isEmpty())
-        match.candidates = FindPlaces(name, QString(), maxCandidates);
+    // A name that only one place starts with is that place, as the entry screen's list would
+    // take it; several are an ambiguity, listed as far as maxCandidates goes.
+    if (settle(ofCountry(FindPlaces(name), country)))
+        return match;
+    // An unknown country still lists the places of that name.
+    match.candidates = FindPlaces(name, QString(), maxCandidates);
     return match;
+}
+
+std::vector<const AtlasPlace *> AtlasLookup::ofCountry(const std::vector<const AtlasPlace *> &places, const QString &foldedCountry)
+{
+    if (foldedCountry.isEmpty())
+        return places;
+    // A full country name picks that country alone; otherwise it is a prefix.
+    std::vector<const AtlasPlace *> same;
+    std::vector<const AtlasPlace *> starting;
+    for (const AtlasPlace *p : places) {
+        const QString c = Fold(p->Country);
+        if (c == foldedCountry)
+            same.push_back(p);
+        else if (c.startsWith(foldedCountry))
+            starting.push_back(p);
+    }
+    return same.empty() ? starting : same;
 }
 
 QString AtlasLookup::Fold(const QString &text)

@@ -36,7 +36,8 @@ struct AtlasMatch
     enum Outcome { Found, Ambiguous, NotFound };
     Outcome outcome = NotFound;
     const AtlasPlace *place = nullptr;          // the place, when Found
-    std::vector<const AtlasPlace *> candidates; // Ambiguous: the equal names; NotFound: near names
+    std::vector<const AtlasPlace *> candidates; // Ambiguous: the places it could be; NotFound: near names
+    int more = 0;                               // Ambiguous: places beyond the listed candidates
 };
 
 class AtlasLookup
@@ -62,7 +63,9 @@ public:
     // The country of that name, or null.
     const AtlasCountry *FindCountry(const QString &name) const;
     // The place "NAME" or "NAME,COUNTRY" (the country may be a prefix). A name holding a
-    // comma is first tried whole. Unknown names list up to maxCandidates names that start alike.
+    // comma is first tried whole. An exact name comes first; failing that, a name that is the
+    // prefix of exactly one place names it, and of several is ambiguous (up to maxCandidates
+    // listed). An unknown country lists the places of that name or prefix anywhere.
     AtlasMatch Resolve(const QString &text, int maxCandidates = 20) const;
 
     // The search form of a name: no accents, case-folded, typographic apostrophes straight.
@@ -76,6 +79,9 @@ private:
         int row;
     };
     std::vector<const AtlasPlace *> exactNames(const QString &foldedName) const;
+    // The places of that country: of its exact name if any, else of countries starting with it.
+    static std::vector<const AtlasPlace *> ofCountry(const std::vector<const AtlasPlace *> &places,
+                                                     const QString &foldedCountry);
     void setRows(const std::vector<QStringList> &cityRows, const std::vector<QStringList> &countryRows);
 
     std::vector<AtlasPlace> m_places;

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "cli/CommandLine.h"
+#include "cli/ChartCommand.h"
 #include "support/TestSupport.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -17,11 +18,12 @@ struct CliRun
     QString err;
 };
 
+// Runs "chart" and its options in-process.
 CliRun run(const QStringList &args)
 {
     QString out, err;
     QTextStream o(&out), e(&err);
-    const int status = RunCommandLine(args, o, e);
+    const int status = RunChartCommand(args.mid(1), o, e);
     o.flush();
     e.flush();
     return {status, out, err};
@@ -174,7 +176,7 @@ TEST(CommandLine, PlacesTakeTheZoneHistoryOfTheBirthsOwnMoment)
     EXPECT_NEAR(o["planets"].toArray()[1].toObject()["longitude"].toDouble(), 55.1, 1.0); // the Sun in Taurus
 }
 
-TEST(CommandLine, UnknownOrAmbiguousPlacesListTheCandidates)
+TEST(CommandLine, PlacesByNameOrByTheBeginningOfOne)
 {
     ScopedSettingsStore store;
     CliRun r;
@@ -182,10 +184,26 @@ TEST(CommandLine, UnknownOrAmbiguousPlacesListTheCandidates)
     EXPECT_EQ(r.status, 2);
     EXPECT_TRUE(r.err.contains("London, Canada"));
     EXPECT_TRUE(r.err.contains("London, United Kingdom"));
+    EXPECT_TRUE(r.out.isEmpty());
     hourAfterCast("01/01/1980", "Xyzzyville", &r);
     EXPECT_EQ(r.status, 2);
     EXPECT_TRUE(r.err.contains("is not in the atlas"));
     EXPECT_TRUE(r.out.isEmpty());
+    // A long list ends by saying how many it left out.
+    hourAfterCast("01/01/1980", "Sa", &r);
+    EXPECT_EQ(r.status, 2);
+    EXPECT_TRUE(r.err.contains(QRegularExpression("and \\d+ more\\.\n?$"))) << r.err.toStdString();
+
+    // The only place that starts so is that place, with its coordinates and zone.
+    hourAfterCast("01/01/1980", "mumba", &r);
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    const QJsonObject person = QJsonDocument::fromJson(r.out.toUtf8()).object()["person"].toObject();
+    EXPECT_EQ(person["hour"].toInt(), 10);
+    CliRun typed = run({"chart", "--date", "01/01/1980", "--time", "10.00", "--lat", "19:04N", "--lon", "72:53E", "--gmt", "+05.30",
+                        "--json"});
+    EXPECT_EQ(QJsonDocument::fromJson(typed.out.toUtf8()).object()["planets"],
+              QJsonDocument::fromJson(r.out.toUtf8()).object()["planets"]);
+
     const CliRun both = run({"chart", "--date", "01/01/1980", "--time", "10.00", "--place", "Delhi", "--gmt", "+05.30"});
     EXPECT_EQ(both.status, 2);
 }

@@ -153,18 +153,57 @@ TEST(Atlas, ResolveNamesWithCountries)
     ASSERT_EQ(aurangabad.outcome, AtlasMatch::Ambiguous);
     EXPECT_EQ(aurangabad.candidates.size(), 2u);
 
-    const AtlasMatch partial = atlas.Resolve(QStringLiteral("Mumba"));
-    EXPECT_EQ(partial.outcome, AtlasMatch::NotFound);
-    EXPECT_TRUE(names(partial.candidates).contains(QStringLiteral("Mumbai/India")));
-    // An unknown country still lists the towns of that name.
-    const AtlasMatch wrongCountry = atlas.Resolve(QStringLiteral("Mumbai,Narnia"));
-    EXPECT_EQ(wrongCountry.outcome, AtlasMatch::NotFound);
-    EXPECT_TRUE(names(wrongCountry.candidates).contains(QStringLiteral("Mumbai/India")));
+    // An unknown country still lists the towns of that name, or of that beginning.
+    for (const QString &typed : {QStringLiteral("Mumbai,Narnia"), QStringLiteral("Mumba,Narnia")}) {
+        const AtlasMatch wrongCountry = atlas.Resolve(typed);
+        EXPECT_EQ(wrongCountry.outcome, AtlasMatch::NotFound) << typed.toStdString();
+        EXPECT_EQ(names(wrongCountry.candidates), QStringList{QStringLiteral("Mumbai/India")}) << typed.toStdString();
+    }
 
     const AtlasMatch nothing = atlas.Resolve(QStringLiteral("Qqxyzzy"));
     EXPECT_EQ(nothing.outcome, AtlasMatch::NotFound);
     EXPECT_TRUE(nothing.candidates.empty());
     EXPECT_EQ(atlas.Resolve(QStringLiteral("  ")).outcome, AtlasMatch::NotFound);
+}
+
+TEST(Atlas, ResolveByTheBeginningOfOneName)
+{
+    const AtlasLookup &atlas = shipped();
+    struct Case
+    {
+        const char *typed;
+        const char *found; // City/Country, or null when it stays ambiguous
+    };
+    const Case cases[] = {
+        {"Mumba", "Mumbai/India"},           // the only place that starts so
+        {"mumba, ind", "Mumbai/India"},      // with a country, also a prefix
+        {"Londr", "Londrina/Brazil"},
+        {"Londo,Canada", "London/Canada"},   // London of the UK and Londonderry are elsewhere
+        {"Gay", "Gay/Russia"},               // a whole name beats the longer names it begins
+        {"Suva", "Suva/Fiji"},               // not Suva Reka
+        {"Lond", nullptr},                   // two Londons, Londonderry, Londrina
+        {"Lond,United K", nullptr},          // London and Londonderry
+    };
+    for (const Case &c : cases) {
+        const AtlasMatch m = atlas.Resolve(QString::fromUtf8(c.typed));
+        if (c.found) {
+            ASSERT_EQ(m.outcome, AtlasMatch::Found) << c.typed;
+            EXPECT_EQ(m.place->City + QLatin1Char('/') + m.place->Country, QString::fromUtf8(c.found)) << c.typed;
+        } else {
+            EXPECT_EQ(m.outcome, AtlasMatch::Ambiguous) << c.typed;
+            EXPECT_GE(m.candidates.size(), 2u) << c.typed;
+            for (const AtlasPlace *p : m.candidates)
+                EXPECT_TRUE(p->City.startsWith(QStringLiteral("Lond"))) << c.typed;
+        }
+    }
+    EXPECT_EQ(atlas.Resolve(QStringLiteral("Lond")).candidates.size(), 4u);
+
+    // A short beginning lists as many as asked and counts the rest.
+    const AtlasMatch sa = atlas.Resolve(QStringLiteral("Sa"), 5);
+    ASSERT_EQ(sa.outcome, AtlasMatch::Ambiguous);
+    EXPECT_EQ(sa.candidates.size(), 5u);
+    EXPECT_EQ(int(sa.candidates.size()) + sa.more, int(atlas.FindPlaces(QStringLiteral("Sa")).size()));
+    EXPECT_EQ(atlas.Resolve(QStringLiteral("Lond")).more, 0);
 }
 
 TEST(Atlas, PrefixSearches)

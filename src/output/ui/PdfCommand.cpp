@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "output/ui/PdfCommand.h"
 
-#include "cli/CommandLine.h"
+#include "cli/BirthOptions.h"
 #include "output/PrintTree.h"
 #include "output/ui/PageCache.h"
 #include "output/ui/PageOutput.h"

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "cli/ChartCommand.h"
+
+#include "cli/BirthOptions.h"
+#include "dasha/clsDashaVimshottari.h"
+#include "sky/Functions.h"
+#include "strength/clsShadBala.h"
+#include "yoga/CheckYogas.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <array>
+
+namespace {
+
+inline constexpr std::array<const char *, 13> kPlanetNames{
+    "Lagna", "Sun", "Mercury", "Venus", "Mars", "Jupiter", "Saturn", "Moon", "Rahu", "Ketu", "Uranus", "Neptune", "Pluto"};
+inline constexpr std::array<const char *, 12> kSignNames{
+    "Aries", "Taurus", "Gemini", "Cancer", "Leo", "Virgo", "Libra", "Scorpio", "Sagittarius", "Capricorn", "Aquarius", "Pisces"};
+
+const QString kUsage = QStringLiteral(
+    "Usage: orbanta chart --date DD/MM/YYYY --time HH.MM --lat DDD:MM{N|S} --lon DDD:MM{E|W}\n"
+    "                     --gmt {+|-}HH.MM [--name TEXT] [--sex M|F] [--tcorr {+|-}HH.MM]\n"
+    "   or: orbanta chart --date DD/MM/YYYY --time HH.MM --place NAME[,COUNTRY] [the same options]\n"
+    "                     [--ayanamsa N] [--node mean|true] [--vakya] [--json]\n");
+
+void writeTable(const clsPlanets &chart, QTextStream &out)
+{
+    const clsPerson &p = chart.Person();
+    out << "Name      : " << (p.Name().isEmpty() ? QStringLiteral("-") : p.Name()) << '\n';
+    out << "Born      : " << p.DayText() << '/' << p.MonthText() << '/' << p.Year() << ' ' << p.GetBirthTime()
+        << "  GMT " << p.GMTDIFF() << "  " << p.GetLatitudeFull() << "  " << p.GetLongitudeFull() << '\n';
+    out << "Ayanamsa  : " << clsPlanets::DecToDeg(chart.PlanetLongi(13)) << "  (choice " << chart.AyanType() << ")\n\n";
+    out << QStringLiteral("%1 %2 %3 %4 %5\n")
+               .arg(QStringLiteral("Planet"), -9)
+               .arg(QStringLiteral("Longitude"), -11)
+               .arg(QStringLiteral("Sign"), -12)
+               .arg(QStringLiteral("In sign"), -10)
+               .arg(QStringLiteral("Motion"));
+    for (int n = 0; n <= 12; ++n) {
+        const double l = chart.PlanetLongi(n);
+        const int sign = static_cast<int>(Int(l / 30)) % 12;
+        QString motion = QStringLiteral("-");
+        if (n != 0)
+            motion = chart.RetroGrade(n) ? QStringLiteral("R") : QStringLiteral("D");
+        out << QStringLiteral("%1 %2 %3 %4 %5\n")
+                   .arg(QString::fromLatin1(kPlanetNames[static_cast<size_t>(n)]), -9)
+                   .arg(clsPlanets::DecToDeg(l), -11)
+                   .arg(QString::fromLatin1(kSignNames[static_cast<size_t>(sign)]), -12)
+                   .arg(clsPlanets::ConvertValNoDeg(l - sign * 30.0), -10)
+                   .arg(motion);
+    }
+}
+
+} // namespace
+
+QJsonObject ChartJson(const clsPlanets &chart)
+{
+    const clsPerson &person = chart.Person();
+    QJsonObject o;
+    o.insert(QStringLiteral("person"), QJsonObject{
+                                           {QStringLiteral("name"), person.Name()},
+                                           {QStringLiteral("day"), static_cast<qint64>(person.Day())},
+                                           {QStringLiteral("month"), static_cast<qint64>(person.Month())},
+                                           {QStringLiteral("year"), static_cast<qint64>(person.Year())},
+                                           {QStringLiteral("hour"), static_cast<qint64>(person.Hour())},
+                                           {QStringLiteral("minutes"), static_cast<qint64>(person.Minutes())},
+                                       });
+    o.insert(QStringLiteral("ayanamsa_type"), chart.AyanType());
+    o.insert(QStringLiteral("ayanamsa"), chart.PlanetLongi(13));
+    o.insert(QStringLiteral("kp_ayanamsa"), chart.KPAyanVal());
+    o.insert(QStringLiteral("obliquity"), chart.Obliq());
+    o.insert(QStringLiteral("sidereal_time"), chart.SidrealTime());
+    QJsonArray planets;
+    for (int n = 0; n <= 12; ++n) {
+        QJsonObject pl{{QStringLiteral("n"), n}, {QStringLiteral("longitude"), chart.PlanetLongi(n)}};
+        if (n != 0)
+            pl.insert(QStringLiteral("next"), chart.PlanetLongi(n + 13));
+        pl.insert(QStringLiteral("retrograde"), chart.RetroGrade(n));
+        planets.append(pl);
+    }
+    o.insert(QStringLiteral("planets"), planets);
+    QJsonArray cusps;
+    for (int i = 1; i <= 12; ++i)
+        cusps.append(chart.KPHouse(i));
+    o.insert(QStringLiteral("kp_cusps"), cusps);
+    o.insert(QStringLiteral("sunrise"), chart.SunRiseTime());
+    o.insert(QStringLiteral("sunset"), chart.SunSetTime());
+    QJsonArray mids, begins;
+    for (int i = 0; i <= 12; ++i) {
+        mids.append(chart.BhavMid(i));
+        begins.append(chart.BhavBegin(i));
+    }
+    o.insert(QStringLiteral("bhava_mid"), mids);
+    o.insert(QStringLiteral("bhava_begin"), begins);
+    o.insert(QStringLiteral("panchang"), QJsonObject{
+                                             {QStringLiteral("tithi"), chart.Tithi()},
+                                             {QStringLiteral("nakshatra"), chart.Nakshatra()},
+                                             {QStringLiteral("pada"), chart.Pada()},
+                                             {QStringLiteral("yoga"), chart.YogaNumber()},
+                                             {QStringLiteral("karana"), chart.KaranNumber()},
+                                             {QStringLiteral("weekday_lord"), chart.WeekDayLord()},
+                                             {QStringLiteral("rashi"), chart.RashiNum()},
+                                         });
+    QJsonArray vargas;
+    for (int k = 0; k < 18; ++k) {
+        QJsonArray row;
+        for (int n = 0; n <= 12; ++n) {
+            const std::optional<int> sign = chart.PrediVargaValue(n, k);
+            row.append(sign ? QJsonValue(*sign) : QJsonValue(QJsonValue::Null));
+        }
+        vargas.append(row);
+    }
+    o.insert(QStringLiteral("vargas"), vargas);
+    QJsonArray mahas;
+    for (const DashaPeriod &m : Vimshottari::Mahas(chart))
+        mahas.append(QJsonObject{{QStringLiteral("lord"), m.Lord},
+                                 {QStringLiteral("start"), m.Start.toString(QStringLiteral("dd/MM/yyyy hh:mm"))},
+                                 {QStringLiteral("years"), m.Years}});
+    o.insert(QStringLiteral("vimshottari"), mahas);
+    chart.AshTable();
+    QJsonArray ashVarga, ashTotal;
+    for (int varga = 0; varga <= 8; ++varga) {
+        QJsonArray row;
+        for (int s = 1; s <= 12; ++s)
+            row.append(chart.AshVarga(varga, s));
+        ashVarga.append(row);
+    }
+    for (int s = 1; s <= 12; ++s)
+        ashTotal.append(chart.AshTotal(s));
+    clsShadBala sb(chart);
+    QJsonArray shadbala;
+    for (int p = 1; p <= 7; ++p)
+        shadbala.append(QJsonObject{{QStringLiteral("planet"), p},
+                                    {QStringLiteral("sthana"), sb.SBSthanaBala(p)},
+                                    {QStringLiteral("dik"), sb.SBDikBala(p).toDouble()},
+                                    {QStringLiteral("kala"), sb.SBKaalaBala(p).toDouble()},
+                                    {QStringLiteral("chesta"), sb.SBChestaBala(p)},
+                                    {QStringLiteral("naisargika"), sb.SBNaisargikaBala(p)},
+                                    {QStringLiteral("drig"), sb.SBDrigBala(p).toDouble()},
+                                    {QStringLiteral("total"), sb.TotalShadBala(p).toDouble()},
+                                    {QStringLiteral("rupas"), sb.RupaShadbala(p).toDouble()}});
+    o.insert(QStringLiteral("shadbala"), shadbala);
+    QJsonArray yogas;
+    for (const QString &key : CheckYogas::NameKeys(CheckYogas::ScanYogas(chart)))
+        yogas.append(key);
+    o.insert(QStringLiteral("yogas"), yogas);
+    o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
+    return o;
+}
+
+int RunChartCommand(const QStringList &args, QTextStream &out, QTextStream &err)
+{
+    return RunWithChart(args, out, err, {{QStringLiteral("json"), QStringLiteral("Print one JSON object.")}}, kUsage,
+                        [&out](const QCommandLineParser &p, std::unique_ptr<clsPlanets> &chart, QSqlDatabase &) {
+                            if (p.isSet(QStringLiteral("json")))
+                                out << QJsonDocument(ChartJson(*chart)).toJson(QJsonDocument::Compact) << '\n';
+                            else
+                                writeTable(*chart, out);
+                            return 0;
+                        });
+}

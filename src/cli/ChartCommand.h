@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+// "orbanta chart <birth> [--json]": the chart as a table, or as one JSON object.
+
+#include "sky/clsPlanets.h"
+
+#include <QJsonObject>
+#include <QStringList>
+#include <QTextStream>
+
+// Runs the verb; args without the verb itself. Returns the exit status.
+int RunChartCommand(const QStringList &args, QTextStream &out, QTextStream &err);
+// The JSON object that "chart --json" prints for a cast chart.
+QJsonObject ChartJson(const clsPlanets &chart);
