@@ -8,6 +8,7 @@
 #include "output/ui/PdfCommand.h"
 #include "output/ui/PrintRun.h"
 #include "output/ui/TextPage.h"
+#include "output/ui/frmPrint.h"
 #include "session/Session.h"
 #include "support/TestSupport.h"
 #include "text/TextDB.h"
@@ -120,6 +121,33 @@ TEST_F(PdfExport, AllTopicsInWalkOrderOneSheetEachWithTheirNumbers)
         EXPECT_GE(found, at) << heading;
         at = qMax(at, found);
     }
+}
+
+// File > Export PDF goes through the print screen; it must write the very pages that the command
+// line writes for the same birth, numbered alike from 1.
+TEST_F(PdfExport, ThePrintScreensExportHasTheCommandLinesPages)
+{
+    const QString screenFile = dir.filePath("screen.PDF"), cliFile = dir.filePath("cli.PDF");
+    {
+        PageCache pages;
+        frmPrint dialog(pages);
+        dialog.setMode(3);
+        ASSERT_TRUE(dialog.cmdPrint_Click(screenFile));
+    }
+    QString outText, errText;
+    QTextStream out(&outText), err(&errText);
+    ASSERT_EQ(RunPdfCommand({"--date", "15/08/1980", "--time", "14.35", "--lat", "28:38N", "--lon", "77:12E", "--gmt", "+05.30",
+                             "--name", "Asha", "--out", cliFile},
+                            out, err),
+              0)
+        << errText.toStdString();
+    const QString a = pdfText(screenFile), b = pdfText(cliFile);
+    if (a.isEmpty())
+        GTEST_SKIP() << "pdftotext is not installed";
+    const QStringList sheetsA = a.split('\f'), sheetsB = b.split('\f');
+    ASSERT_EQ(sheetsA.size(), sheetsB.size());
+    for (int i = 0; i < sheetsA.size(); ++i)
+        EXPECT_EQ(sheetsA[i], sheetsB[i]) << "sheet " << i + 1;
 }
 
 TEST_F(PdfExport, TextPagesPaginateUnderTheirHeaderAndCountTheirSheets)
