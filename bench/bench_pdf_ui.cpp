@@ -10,6 +10,8 @@
 #include "sky/clsPlanets.h"
 #include "text/TextDB.h"
 
+#include "app/TopicPages.h"
+
 #include <QApplication>
 #include <QDir>
 
@@ -60,5 +62,6 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    RegisterTopicPages();
     return RunBenchmarks<QApplication>(argc, argv);
 }

@@ -4,7 +4,7 @@
 // session's screens drive it.
 #include "session/Session.h"
 #include "session/ui/frmLogin.h"
-#include "session/ui/mdiMother.h"
+#include "app/mdiMother.h"
 #include "support/TestSupport.h"
 
 #include <QFile>

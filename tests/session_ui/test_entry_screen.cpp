@@ -3,7 +3,7 @@
 #include "session/Session.h"
 #include "session/ui/frmLogin.h"
 #include "session/ui/frmSplash.h"
-#include "session/ui/mdiMother.h"
+#include "app/mdiMother.h"
 #include "support/TestSupport.h"
 #include "session_ui/SessionWindow.h"
 

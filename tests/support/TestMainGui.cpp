@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // main() of the widget tests: a QApplication on whatever platform QT_QPA_PLATFORM names
 // (offscreen under CTest).
+#include "app/TopicPages.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -22,6 +24,7 @@ int main(int argc, char **argv)
     QStandardPaths::setTestModeEnabled(true);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orbanta"));
+    RegisterTopicPages();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

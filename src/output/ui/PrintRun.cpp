@@ -4,7 +4,6 @@
 #include "output/ui/PageCache.h"
 #include "output/ui/PageOutput.h"
 #include "output/ui/TextPage.h"
-#include "sky/pages/frmSodash.h"
 
 #include <QCoreApplication>
 
@@ -16,8 +15,7 @@ int WalkSteps(const QList<PrintStep> &steps, PageCache &pages, PageOutput &out, 
         TopicPage *page = pages.load(step.Page);
         if (page) {
             if (step.MakePage > 0)
-                if (auto *sodash = qobject_cast<frmSodash *>(page))
-                    sodash->MakePage(step.MakePage);
+                page->MakePage(step.MakePage);
             if (step.Kind == StepKind::Text) {
                 if (auto *text = qobject_cast<TextPage *>(page))
                     out.OutputTextPage(*text);

@@ -31,6 +31,8 @@ public:
 
     // Fills the page from the chart, once.
     void Load();
+    // Shows part n of a page that holds several (the Shodash charts); others ignore it.
+    virtual void MakePage(int n) { Q_UNUSED(n); }
     bool isLoaded() const { return m_loaded; }
     // The page number, shown at the foot; empty for none.
     QLabel *lblPageNo;
@@ -71,5 +73,10 @@ private:
     bool m_framed = true;
 };
 
-// The topic pages built into the program, by name; nullptr for a page not built yet.
+// The topic pages of the program, by name. Output knows pages only through this registry: the
+// program's start (and a test's) registers every page once, and topic lists and print walks ask
+// for them by name.
+using TopicPageMaker = std::function<TopicPage *(QWidget *parent)>;
+void RegisterTopicPage(const QString &name, TopicPageMaker make);
+// A new page of that name; nullptr for a page no one registered (a topic still to come).
 TopicPage *CreateTopicPage(const QString &name, QWidget *parent = nullptr);

@@ -5,7 +5,6 @@
 #include "session/Startup.h"
 #include "session/ui/frmMessage.h"
 #include "session/ui/frmWizard.h"
-#include "session/ui/mdiMother.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -65,14 +64,14 @@ void frmSplash::stage(const QString &text)
     QApplication::processEvents();
 }
 
-mdiMother *frmSplash::DoLoad()
+bool frmSplash::DoLoad()
 {
     if (!Startup::DecimalPointIsDot()) {
         QMessageBox::critical(this, QStringLiteral("Error in Regional Settings."),
                               QStringLiteral("Orbanta Supports only '.' for decimal numbers:\n"
                                              "Please change the Control Panel ---> Regional Settings to English as this software "
                                              "supports only the '.' symbol for calculating decimal numbers."));
-        return nullptr;
+        return false;
     }
     // The setup wizard runs once, before anything else; cancelling it also counts as done.
     if (!AppSettings::value(QStringLiteral("Settings"), QStringLiteral("DoneSetup"), false).toBool()) {
@@ -84,12 +83,12 @@ mdiMother *frmSplash::DoLoad()
     if (!missing.isEmpty()) {
         QMessageBox::critical(this, QStringLiteral("Orbanta"),
                               QStringLiteral("The data file STUFF/%1 is missing. Please install the program again.").arg(missing));
-        return nullptr;
+        return false;
     }
     QString error;
     if (!Startup::SeedUserData(&error) || !Startup::OpenRecDB(&error)) {
         QMessageBox::critical(this, QStringLiteral("Orbanta"), error);
-        return nullptr;
+        return false;
     }
     stage(QStringLiteral("Checking Display..."));
     if (const QScreen *screen = QApplication::primaryScreen())
@@ -108,5 +107,5 @@ mdiMother *frmSplash::DoLoad()
                                      .arg(missingFonts.join(QStringLiteral(", "))));
     stage(QStringLiteral("Checking Languages..."));
     stage(QStringLiteral("Loading Application..."));
-    return new mdiMother;
+    return true;
 }

@@ -6,16 +6,15 @@
 #include <QLabel>
 #include <QWidget>
 
-class mdiMother;
 
 class frmSplash : public QWidget
 {
     Q_OBJECT
 public:
     explicit frmSplash(QWidget *parent = nullptr);
-    // Runs the stages; returns the main window, or null when the program must end
-    // (the reason has been shown).
-    mdiMother *DoLoad();
+    // Runs the stages; false when the program must end (the reason has been shown). The
+    // program then makes its main window.
+    bool DoLoad();
 
     QLabel *lblStatus;
     QLabel *lblVerNo;

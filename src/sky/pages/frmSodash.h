@@ -17,7 +17,7 @@ class frmSodash : public TopicPage
 public:
     explicit frmSodash(QWidget *parent = nullptr) : TopicPage(QStringLiteral("frmSodash"), parent) {}
     // Draws content n (1..4) again: the titles and the four charts.
-    void MakePage(int n);
+    void MakePage(int n) override;
     int currentPage() const { return m_page; }
     std::array<Kundali *, 4> kunVarga{};
     std::array<QLabel *, 4> lblVarga{};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "session/ui/mdiMother.h"
+#include "app/mdiMother.h"
 
 #include "output/ui/BottomBar.h"
 #include "output/ui/PageCache.h"
@@ -8,7 +8,6 @@
 #include "output/ui/frmPrint.h"
 #include "output/ui/frmStatus.h"
 #include "output/ui/TopicPage.h"
-#include "sky/pages/frmSodash.h"
 
 #include "session/AppSettings.h"
 #include "session/Session.h"
@@ -404,8 +403,8 @@ void mdiMother::ShowTopic(int index)
     if ((mode == 1 || mode == 2 || mode == 4) && index >= 0 && index < m_topicList.size()) {
         const TopicEntry &t = m_topicList[index];
         if (TopicPage *page = m_pages->load(t.Page)) {
-            if (auto *sodash = qobject_cast<frmSodash *>(page))
-                sodash->MakePage(t.PageArg);
+            if (t.PageArg > 0)
+                page->MakePage(t.PageArg);
             m_pageStack->setCurrentWidget(page);
             page->show();
             m_active = page;

@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+// The one place that knows every subsystem's pages: it registers them with the topic output.
+
+// Registers every topic page of the program; safe to call more than once.
+void RegisterTopicPages();
