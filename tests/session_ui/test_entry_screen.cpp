@@ -170,6 +170,11 @@ TEST_F(EntryScreen, Screenshots)
     screen->single->cmbPlace->setEditText("Delhi");
     QApplication::processEvents();
     window->grab().save(out + "/entry-screen.png");
+    screen->SavePerson();
+    screen->DeletePerson();
+    QApplication::processEvents();
+    window->grab().save(out + "/entry-screen-deleted.png"); // the Undo beside the hint
+    screen->UndoDelete();
     screen->cmdMatch_Click();
     QApplication::processEvents();
     window->grab().save(out + "/entry-screen-marriage.png");
