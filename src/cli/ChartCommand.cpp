@@ -55,7 +55,7 @@ void writeTable(const clsPlanets &chart, QTextStream &out)
 
 } // namespace
 
-QJsonObject ChartJson(const clsPlanets &chart)
+QJsonObject ChartCastJson(const clsPlanets &chart)
 {
     const clsPerson &person = chart.Person();
     QJsonObject o;
@@ -85,8 +85,8 @@ QJsonObject ChartJson(const clsPlanets &chart)
     for (int i = 1; i <= 12; ++i)
         cusps.append(chart.KPHouse(i));
     o.insert(QStringLiteral("kp_cusps"), cusps);
-    o.insert(QStringLiteral("sunrise"), chart.SunRiseTime());
-    o.insert(QStringLiteral("sunset"), chart.SunSetTime());
+    // Beyond the polar circles Placidus has no cusps, and the library's are Porphyry's.
+    o.insert(QStringLiteral("kp_cusps_system"), chart.KPHousesPlacidus() ? QStringLiteral("Placidus") : QStringLiteral("Porphyry"));
     QJsonArray mids, begins;
     for (int i = 0; i <= 12; ++i) {
         mids.append(chart.BhavMid(i));
@@ -129,6 +129,19 @@ QJsonObject ChartJson(const clsPlanets &chart)
     }
     for (int s = 1; s <= 12; ++s)
         ashTotal.append(chart.AshTotal(s));
+    QJsonArray yogas;
+    for (const QString &key : CheckYogas::NameKeys(CheckYogas::ScanYogas(chart)))
+        yogas.append(key);
+    o.insert(QStringLiteral("yogas"), yogas);
+    o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
+    return o;
+}
+
+QJsonObject ChartDayJson(const clsPlanets &chart)
+{
+    QJsonObject o;
+    o.insert(QStringLiteral("sunrise"), chart.SunRiseTime());
+    o.insert(QStringLiteral("sunset"), chart.SunSetTime());
     clsShadBala sb(chart);
     QJsonArray shadbala;
     for (int p = 1; p <= 7; ++p)
@@ -142,11 +155,15 @@ QJsonObject ChartJson(const clsPlanets &chart)
                                     {QStringLiteral("total"), sb.TotalShadBala(p).toDouble()},
                                     {QStringLiteral("rupas"), sb.RupaShadbala(p).toDouble()}});
     o.insert(QStringLiteral("shadbala"), shadbala);
-    QJsonArray yogas;
-    for (const QString &key : CheckYogas::NameKeys(CheckYogas::ScanYogas(chart)))
-        yogas.append(key);
-    o.insert(QStringLiteral("yogas"), yogas);
-    o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
+    return o;
+}
+
+QJsonObject ChartJson(const clsPlanets &chart)
+{
+    QJsonObject o = ChartCastJson(chart);
+    const QJsonObject day = ChartDayJson(chart);
+    for (auto it = day.begin(); it != day.end(); ++it)
+        o.insert(it.key(), it.value());
     return o;
 }
 

@@ -10,5 +10,11 @@
 
 // Runs the verb; args without the verb itself. Returns the exit status.
 int RunChartCommand(const QStringList &args, QTextStream &out, QTextStream &err);
-// The JSON object that "chart --json" prints for a cast chart.
+// The JSON object that "chart --json" prints for a cast chart: the two below together.
 QJsonObject ChartJson(const clsPlanets &chart);
+// The members read from the cast itself: person, positions, houses, panchang, divisions,
+// Vimshottari, Ashtakavarga, yogas.
+QJsonObject ChartCastJson(const clsPlanets &chart);
+// The members that cast the chart again at other moments of the day and year, some ten times
+// the cost of the rest: sunrise, sunset and Shadbala.
+QJsonObject ChartDayJson(const clsPlanets &chart);

@@ -146,7 +146,8 @@ void clsPlanets::calcPlanets()
 
     // The Vakya method replaces the bodies it knows and the Lagna. Its values are sidereal by its
     // own reckoning; the Lahiri value of position 13 is added so that the ayanamsa in force can
-    // be taken off below exactly as on the ephemeris path.
+    // be taken off below exactly as on the ephemeris path. The sum is brought into 0..360 here,
+    // since the choices that take nothing off (12 and 14) leave it as it stands.
     const bool vakya = AppSettings::Vakya();
     double x = 0;
     double vakyaLagna = 0;
@@ -156,7 +157,7 @@ void clsPlanets::calcPlanets()
         vakyaLagna = PlanetLongi(0);
         x = PlanetLongi(13);
         for (int i : {1, 2, 3, 4, 5, 6, 7, 8, 9, 14, 15, 16, 17, 18, 19, 20, 21, 22})
-            setPlanetLongi(i, PlanetLongi(i) + x);
+            setPlanetLongi(i, Norm360(PlanetLongi(i) + x));
     }
 
     applyAyanamsa();
@@ -248,6 +249,7 @@ void clsPlanets::calcSwePlanets()
     const SwissEphemeris::Houses h = SwissEphemeris::housesPlacidus(tjd2, lat, lon);
     m_cusps = h.cusps;
     m_ascmc = h.ascmc;
+    m_kpHousesPlacidus = h.ok;
     const double kp = KPAyanVal();
     for (int i = 1; i <= 12; ++i)
         m_kpHouse[static_cast<size_t>(i)] = Norm360(m_cusps[static_cast<size_t>(i)] - kp);

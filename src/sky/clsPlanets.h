@@ -56,6 +56,9 @@ public:
     double KPAyanVal() const;
     // Placidus cusp n (1..12) less the KP ayanamsa; 0 is the Lagna in the KP ayanamsa.
     double KPHouse(int n) const;
+    // False when the last Calculate lay beyond the polar circles, where Placidus cusps don't
+    // exist: Swiss Ephemeris then gives Porphyry's, and KPHouse holds those.
+    bool KPHousesPlacidus() const { return m_kpHousesPlacidus; }
     // Obliquity in degrees and local sidereal time in hours, from the last Calculate.
     double Obliq() const { return m_obliq; }
     double SidrealTime() const { return m_sidrealTime; }
@@ -324,6 +327,7 @@ private:
     int m_rahuKetuMode = 1;
     int m_utDay = 0, m_utMonth = 0, m_utYear = 0;
     bool m_lagnaValid = true;
+    bool m_kpHousesPlacidus = true;
     std::unique_ptr<clsPerson> m_person;
     std::unique_ptr<clsVakya> m_vakya;
     QSqlDatabase m_textDb, m_recDb;

@@ -127,7 +127,7 @@ TEST(CommandLine, BadInputGivesTheEntryScreensMessageAndStatusTwo)
     EXPECT_EQ(run({"chart", "--bogus"}).status, 2);
 }
 
-TEST(CommandLine, VakyaRefusesPlacesWhereItsLagnaIsUndefined)
+TEST(CommandLine, MethodsWithoutAnAnswerAtAPlaceSaySo)
 {
     ScopedSettingsStore store;
     QStringList args = kDelhi;
@@ -135,8 +135,14 @@ TEST(CommandLine, VakyaRefusesPlacesWhereItsLagnaIsUndefined)
     const CliRun r = run(args + QStringList{"--vakya"});
     EXPECT_EQ(r.status, 2);
     EXPECT_TRUE(r.err.contains("66.5"));
-    EXPECT_EQ(run(args).status, 0); // the ephemeris has an answer there
     EXPECT_EQ(run(kDelhi + QStringList{"--vakya"}).status, 0);
+
+    // The ephemeris has a Lagna there, but Placidus has no cusps: the library's are Porphyry's.
+    const auto system = [](const CliRun &c) { return QJsonDocument::fromJson(c.out.toUtf8()).object()["kp_cusps_system"].toString(); };
+    const CliRun polar = run(args + QStringList{"--json"});
+    EXPECT_EQ(polar.status, 0);
+    EXPECT_EQ(system(polar), "Porphyry");
+    EXPECT_EQ(system(run(kDelhi + QStringList{"--json"})), "Placidus");
 }
 
 TEST(CommandLine, ReadableTableNamesEveryBody)
