@@ -245,7 +245,8 @@ AtlasMatch AtlasLookup::Resolve(const QString &text, int maxCandidates) const
     return match;
 }
 
-std::vector<const AtlasPlace *> AtlasLookup::ofCountry(const std::vector<const AtlasPlace *> &places, const QString &foldedCountry)
+std::vector<const AtlasPlace *> AtlasLookup::ofCountry(const std::vector<const AtlasPlace *> &places,
+                                                       const QString &foldedCountry)
 {
     if (foldedCountry.isEmpty())
         return places;

@@ -203,8 +203,10 @@ TEST(Sweep, RandomBirthsGiveOnlyFiniteValuesInTheirRanges)
     QSqlDatabase db;
     ASSERT_TRUE(OpenTextDB(QStringLiteral("ENGLISH"), db));
     // ORBANTA_SWEEP_BIRTHS and ORBANTA_SWEEP_SEED widen the search by hand.
-    const int births = qEnvironmentVariableIsSet("ORBANTA_SWEEP_BIRTHS") ? qEnvironmentVariableIntValue("ORBANTA_SWEEP_BIRTHS") : 3000;
-    std::mt19937 rng(qEnvironmentVariableIsSet("ORBANTA_SWEEP_SEED") ? qEnvironmentVariableIntValue("ORBANTA_SWEEP_SEED") : 20240601);
+    const int births =
+        qEnvironmentVariableIsSet("ORBANTA_SWEEP_BIRTHS") ? qEnvironmentVariableIntValue("ORBANTA_SWEEP_BIRTHS") : 3000;
+    std::mt19937 rng(qEnvironmentVariableIsSet("ORBANTA_SWEEP_SEED") ? qEnvironmentVariableIntValue("ORBANTA_SWEEP_SEED")
+                                                                     : 20240601);
     Walker walker;
     QStringList faults;
     int vakya = 0, polar = 0;
