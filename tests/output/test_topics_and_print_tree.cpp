@@ -7,6 +7,7 @@
 #include "support/TestSupport.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QTemporaryDir>
 
@@ -133,6 +134,15 @@ TEST(PageSets, SavedTicksComeBackAndUnknownKeysReadAsTicked)
         EXPECT_TRUE(PageSets::Delete(db, "Charts only", 1));
         EXPECT_TRUE(PageSets::Names(db, 1).isEmpty());
         EXPECT_FALSE(QFile::exists(PageSets::FileOf("Charts only", 1)));
+        // A set's name never leads its file out of the folder of page sets.
+        const QString folder = QFileInfo(PageSets::FileOf("Charts only", 1)).absolutePath();
+        for (const char *name : {"../../evil", "a/b", "..\\x", "/etc/passwd"}) {
+            ASSERT_TRUE(PageSets::Save(db, name, 1, {{"FrontPage", false}})) << name;
+            const QFileInfo written(PageSets::FileOf(name, 1));
+            EXPECT_EQ(written.absolutePath(), folder) << name;
+            EXPECT_TRUE(written.exists()) << name;
+            EXPECT_FALSE(PageSets::Read(name, 1, {"FrontPage"})["FrontPage"]) << name;
+        }
         db.close();
     }
     QSqlDatabase::removeDatabase("sets");

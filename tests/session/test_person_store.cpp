@@ -188,6 +188,39 @@ TEST_F(StoreFixture, DamagedOrForeignFilesChangeNothing)
     EXPECT_EQ(store.AllPersons().front().Name, before.front().Name);
 }
 
+// A file whose rows no entry screen could have written (day 45, month 13, minute 75) is refused
+// whole: its good rows don't slip in either.
+TEST_F(StoreFixture, RowsThatAreNoBirthRefuseTheWholeFile)
+{
+    PersonStore store(db);
+    store.SavePerson(asha());
+    const auto wrong = [](auto change) {
+        PersonRow r = asha();
+        change(r);
+        return r;
+    };
+    const std::vector<PersonRow> bad{wrong([](PersonRow &r) { r.Day = 45; }), wrong([](PersonRow &r) { r.Month = 13; }),
+                                     wrong([](PersonRow &r) { r.Minutes = 75; }), wrong([](PersonRow &r) { r.Hour = 25; }),
+                                     wrong([](PersonRow &r) { r.LatDeg = 200; }), wrong([](PersonRow &r) { r.Sex = 0; })};
+    for (size_t i = 0; i < bad.size(); ++i) {
+        const QString file = dir.filePath(QStringLiteral("bad%1.JKD").arg(i));
+        ASSERT_TRUE(PersonStore::ExportPersons(kStuff + "ExpTemp.JKP", {asha(), bad[i]}, file).ok);
+        const StoreResult r = store.ImportPersons(file);
+        EXPECT_FALSE(r.ok) << i;
+        EXPECT_TRUE(r.message.contains("Nothing was imported")) << i;
+        EXPECT_EQ(store.Count(), 1) << i;
+    }
+    // Hour 24 and 29 February of a leap year are births.
+    const QString good = dir.filePath("good.JKD");
+    ASSERT_TRUE(PersonStore::ExportPersons(kStuff + "ExpTemp.JKP",
+                                           {wrong([](PersonRow &r) { r.Hour = 24; r.Minutes = 0; }),
+                                            wrong([](PersonRow &r) { r.Day = 29; r.Month = 2; r.Year = 2000; })},
+                                           good)
+                    .ok);
+    EXPECT_TRUE(store.ImportPersons(good).ok);
+    EXPECT_EQ(store.Count(), 3);
+}
+
 TEST_F(StoreFixture, PersonCursorWalksByNameAndWritesBack)
 {
     PersonStore store(db);

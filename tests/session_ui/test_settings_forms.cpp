@@ -10,6 +10,8 @@
 #include "session/ui/frmWizard.h"
 #include "support/TestSupport.h"
 
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -170,6 +172,35 @@ TEST_F(SettingsFormsTest, WizardCancelWritesOnlyDoneSetup)
     w.reject();
     EXPECT_EQ(shown.size(), 2u);
     EXPECT_EQ(storedKeys(), QStringList{QStringLiteral("Settings/DoneSetup")});
+}
+
+// Run again from the menu: an ayanamsh the wizard doesn't list survives Finish, and Cancel says
+// the settings stay.
+TEST_F(SettingsFormsTest, TheWizardRunAgainKeepsWhatItDoesNotList)
+{
+    AppSettings::setValue(QStringLiteral("Settings"), QStringLiteral("DoneSetup"), true);
+    for (int ayan : {4, 7, 11, 13, 14}) {
+        AppSettings::setValue(QStringLiteral("Init"), QStringLiteral("AyanType"), ayan);
+        frmWizard w;
+        EXPECT_TRUE(w.optAyanKeep->isChecked()) << ayan;
+        EXPECT_FALSE(w.optLahiri->isChecked()) << ayan;
+        w.GoToStep(7);
+        QTest::mouseClick(w.cmdFinish, Qt::LeftButton);
+        EXPECT_EQ(AppSettings::AyanType(), ayan);
+    }
+    {
+        frmWizard w;
+        w.optRaman->setChecked(true); // a listed choice still replaces it
+        w.GoToStep(7);
+        QTest::mouseClick(w.cmdFinish, Qt::LeftButton);
+        EXPECT_EQ(AppSettings::AyanType(), 2);
+    }
+    frmWizard w;
+    EXPECT_FALSE(w.optAyanKeep->isVisibleTo(&w));
+    QTest::mouseClick(w.cmdCancel, Qt::LeftButton);
+    ASSERT_FALSE(shown.empty());
+    EXPECT_EQ(shown.back().text, QStringLiteral("You have chosen to cancel Setup Wizard; the settings stay as they were."));
+    EXPECT_EQ(AppSettings::AyanType(), 2);
 }
 
 TEST_F(SettingsFormsTest, CalculationPageWritesTheStore)
