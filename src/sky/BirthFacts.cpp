@@ -2,6 +2,7 @@
 #include "sky/BirthFacts.h"
 
 #include "sky/Functions.h"
+#include "sky/SunEvents.h"
 #include "sky/clsPlanets.h"
 
 #include <cmath>
@@ -43,6 +44,26 @@ int Prahar(const clsPlanets &c)
     const clsPerson &p = c.Person();
     const double birth = p.Hour() + p.Minutes() / 60.0 + p.seconds() / 3600.0;
     return Prahar(birth, HoursOfClock(c.SunRiseTime()), HoursOfClock(c.SunSetTime()));
+}
+
+QString SunDayWords(const clsPlanets &c)
+{
+    switch (SunDayKind(c)) {
+    case SunDay::MidnightSun: return QStringLiteral("Sun does not set (midnight sun)");
+    case SunDay::PolarNight: return QStringLiteral("Sun does not rise (polar night)");
+    case SunDay::Normal: break;
+    }
+    return {};
+}
+
+QString SunDayRule(const clsPlanets &c)
+{
+    switch (SunDayKind(c)) {
+    case SunDay::MidnightSun: return QStringLiteral("Midnight sun: day parts reckoned from 6:00 and 18:00 local mean time");
+    case SunDay::PolarNight: return QStringLiteral("Polar night: day parts reckoned from 6:00 and 18:00 local mean time");
+    case SunDay::Normal: break;
+    }
+    return {};
 }
 
 int Varga(const QString &syllable)

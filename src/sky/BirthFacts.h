@@ -17,6 +17,11 @@ QString LocalMeanTime(const clsPlanets &c);
 // The prahar of the birth, 1..8: four watches of the day from sunrise, then four of the night.
 int Prahar(double birthHours, double sunriseHours, double sunsetHours);
 int Prahar(const clsPlanets &c);
+// Where a sun time would stand on a day without one: "Sun does not set (midnight sun)" or "Sun does
+// not rise (polar night)"; empty on a day with sunrise and sunset.
+QString SunDayWords(const clsPlanets &c);
+// The rule the day parts follow on such a day, as a page states it; empty on a normal day.
+QString SunDayRule(const clsPlanets &c);
 // The varga of a syllable by its first letter: 1 Garuda (vowels), 2 Marjara (k-), 3 Simha (ch-, j-),
 // 4 Shvana (retroflex t- and d-; not told apart in roman letters, see Sarpa), 5 Sarpa (t-, d-, n-),
 // 6 Mushaka (p-, f-, b-, m-), 7 Mriga (y-, r-, l-, v-, w-), 8 Mesha (s-, sh-, h-); 0 when empty.

@@ -103,7 +103,50 @@ std::unique_ptr<clsPlanets> SunEventChart(const clsPlanets &chart, SunEvent even
     return LagnaPassChart(copy, target, target - copy.PlanetLongi(0) < 0 ? -1 : 1);
 }
 
+namespace {
+// Hours the place's local mean time runs ahead of its zone clock.
+double meanTimeLead(const clsPerson &p)
+{
+    double lon = p.LongDeg() + p.LongMT() / 60.0;
+    if (p.TextEW().toUpper() == QLatin1String("W"))
+        lon = -lon;
+    return lon / 15.0 - Val(p.GMTDIFF());
+}
+} // namespace
+
+SunDay SunDayKind(const clsPlanets &chart, int direction)
+{
+    const clsPerson &p = chart.Person();
+    double lat = p.LatDeg() + p.LatMT() / 60.0;
+    if (p.TextNS().toUpper() == QLatin1String("S"))
+        lat = -lat;
+    // The Sun's tropical longitude moved on to the day's local mean noon at its mean daily motion;
+    // within a day that is a few arc minutes of declination at most.
+    const double clock = p.Hour() + p.Minutes() / 60.0 + p.seconds() / 3600.0;
+    const double toNoon = 12.0 - meanTimeLead(p) - clock + 24.0 * direction;
+    const double sun = chart.PlanetLongi(1) + chart.PlanetLongi(13) + 0.9856 * toNoon / 24.0;
+    const double obliq = chart.Obliq() > 20 && chart.Obliq() < 27 ? chart.Obliq() : 23.44;
+    constexpr double rad = 3.14159265358979323846 / 180.0;
+    const double decl = std::asin(std::sin(obliq * rad) * std::sin(sun * rad));
+    const double x = -std::tan(lat * rad) * std::tan(decl);
+    if (x < -1)
+        return SunDay::MidnightSun;
+    if (x > 1)
+        return SunDay::PolarNight;
+    return SunDay::Normal;
+}
+
+double EqualDayClock(const clsPlanets &chart, SunEvent event)
+{
+    const double local = event == SunEvent::Rise ? 6.0 : 18.0;
+    long minutes = std::lround((local - meanTimeLead(chart.Person())) * 60.0);
+    minutes = ((minutes % 1440) + 1440) % 1440;
+    return minutes / 60 + (minutes % 60) / 100.0;
+}
+
 double NeighbourSunEvent(const clsPlanets &chart, SunEvent event, int direction)
 {
+    if (SunDayKind(chart, direction) != SunDay::Normal)
+        return EqualDayClock(chart, event);
     return Val(SunEventChart(chart, event, direction)->Person().GetBirthTime());
 }

@@ -12,12 +12,26 @@ class clsPlanets;
 
 enum class SunEvent { Rise, Set };
 
+// Whether the Sun's point rises and sets on a day at a place. Beyond the polar circles it may stay
+// above the horizon all day (midnight sun) or below it (polar night).
+enum class SunDay { Normal, MidnightSun, PolarNight };
+
+// The kind of the day direction days from chart's (-1, 0, +1). The Sun's point, without
+// refraction, rises and sets where -tan(latitude) * tan(declination) lies within -1..1; the
+// declination is the Sun's at that day's local mean noon and the latitude the place's own, not the
+// Lagna's bound of 65 degrees.
+SunDay SunDayKind(const clsPlanets &chart, int direction = 0);
+// On a day without sunrise or sunset the day is reckoned as an equal day: it starts at 6:00 and
+// ends at 18:00 local mean time, day and night 12 hours each. The zone clock (hh.mm) of that
+// start (Rise) or end (Set) at chart's place.
+double EqualDayClock(const clsPlanets &chart, SunEvent event);
+
 // The chart of the sunrise or sunset found by the time search (tolerance 9 arc minutes) from
 // chart's moment moved by direction days (-1 the day before, 0 the day itself, +1 the day after);
 // if its result lies more than a degree off the point, the stride walk's, the way the search set
 // out. chart isn't changed.
 std::unique_ptr<clsPlanets> SunEventChart(const clsPlanets &chart, SunEvent event, int direction);
-// The clock (hh.mm) of that sunrise or sunset.
+// The clock (hh.mm) of that sunrise or sunset; on a day without one, the equal day's clock.
 double NeighbourSunEvent(const clsPlanets &chart, SunEvent event, int direction);
 
 // The chart, to the minute, of the moment at which the Lagna passes target (degrees), walking from

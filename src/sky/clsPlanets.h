@@ -344,6 +344,9 @@ private:
     // ---- Sunrise, sunset and the lengths of day and night (clsPlanets_sun.cpp) ----
 public:
     // Clock (hh.mm) at which the Lagna reaches the Sun's longitude: the sunrise near the birth.
+    // On a day without sunrise or sunset (SunDayKind in SunEvents.h) these two give the equal
+    // day's start and end instead, 6:00 and 18:00 local mean time; a caller that shows them as
+    // sun times asks SunDayKind first.
     double SunRiseTime() const;
     // Clock (hh.mm) at which the Lagna stands opposite the Sun: the first sunset from the birth on.
     double SunSetTime() const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // Sunrise, sunset and the lengths of day and night. Sunrise and sunset are the moments at which
-// the Sun's ecliptic point rises and sets: the Lagna standing on the Sun, or opposite it.
+// the Sun's ecliptic point rises and sets: the Lagna standing on the Sun, or opposite it. On a
+// day when the point doesn't rise or set (SunDayKind), they are the equal day's 6:00 and 18:00
+// local mean time, so that everything counted from them keeps one stated rule.
 #include "sky/clsPlanets.h"
 
 #include "sky/Functions.h"
@@ -65,7 +67,7 @@ double clsPlanets::SunSetTime() const
 {
     refreshSunMemos();
     if (m_sunSet == 0)
-        m_sunSet = iterateSunSet();
+        m_sunSet = SunDayKind(*this) == SunDay::Normal ? iterateSunSet() : EqualDayClock(*this, SunEvent::Set);
     return m_sunSet;
 }
 

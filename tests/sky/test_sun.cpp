@@ -7,6 +7,8 @@
 #include "sky/clsPlanets.h"
 #include "support/TestSupport.h"
 
+#include <QDate>
+
 #include <gtest/gtest.h>
 #include <swephexp.h>
 
@@ -206,44 +208,126 @@ TEST(SunEvents, DayBirthAndTheLengthsOfDayAndNight)
     }
 }
 
-// Beyond 65 degrees the Lagna and bhavas are those of 65 degrees on the same meridian, where the
-// Lagna still moves forward all day and every point of the ecliptic rises and sets. So in the
-// polar day and night sunrise and sunset are those of 65 degrees: the searches end, cheaply, with
-// a long day in summer and a short one in winter.
-TEST(SunEvents, PolarDaysAndNightsTakeTheSunOfTheBoundLatitude)
+// Beyond the polar circles the Sun's point may not rise or set on the day. Such a day says so, and
+// its sunrise and sunset are the equal day's 6:00 and 18:00 local mean time (here 18 deg 57 min E
+// on zone +1: 5.44 and 17.44), not the 65 degrees' long or short day: a birth at 75 N on 1 June
+// once read a sunrise at 1.41 and a sunset at 21.44. Day and night are 12 hours each.
+TEST(SunEvents, DaysWithoutSunriseOrSunsetFollowTheEqualDay)
 {
     ScopedSettingsStore store;
     struct Case
     {
         int latD;
         const char *ns;
-        int month;
-        double dayAbove, dayBelow; // hours
+        int day, month;
+        SunDay kind;
     };
-    const Case cases[] = {
-        {70, "N", 6, 19, 24}, {70, "N", 12, 0.5, 5}, {80, "S", 6, 0.5, 5}, {80, "S", 12, 19, 24}, {89, "N", 3, 10, 14}};
+    const Case cases[] = {{75, "N", 1, 6, SunDay::MidnightSun}, {75, "N", 15, 12, SunDay::PolarNight},
+                          {70, "N", 21, 6, SunDay::MidnightSun}, {80, "S", 21, 6, SunDay::PolarNight},
+                          {80, "S", 21, 12, SunDay::MidnightSun}, {89, "N", 1, 4, SunDay::MidnightSun}};
     for (const Case &k : cases) {
-        SCOPED_TRACE(std::to_string(k.latD) + k.ns + " month " + std::to_string(k.month));
-        for (int hour : {3, 11, 17}) {
+        for (int hour : {3, 11, 19}) {
+            SCOPED_TRACE(std::to_string(k.latD) + k.ns + " " + std::to_string(k.day) + "/" + std::to_string(k.month) + " "
+                         + std::to_string(hour));
             const Place polar{"polar", k.latD, 0, k.ns, 18, 57, "E", 1};
-            const Place bound{"bound", 65, 0, k.ns, 18, 57, "E", 1};
+            clsPlanets chart;
+            cast(chart, polar, k.day, k.month, 2021, hour, 0);
+            EXPECT_EQ(SunDayKind(chart), k.kind);
+            const long before = clsPlanets::CalculateCount();
+            EXPECT_DOUBLE_EQ(chart.SunRiseTime(), 5.44);
+            EXPECT_DOUBLE_EQ(chart.SunSetTime(), 17.44);
+            EXPECT_DOUBLE_EQ(chart.NextSunRiseTime(), 5.44);
+            EXPECT_DOUBLE_EQ(chart.DayDuration(), 12);
+            EXPECT_DOUBLE_EQ(chart.NightDuration(), 12);
+            EXPECT_EQ(chart.DayBirth(), hour == 11);
+            EXPECT_EQ(clsPlanets::CalculateCount(), before); // nothing searched for
+        }
+    }
+    // The clock of the equal day moves with the place's meridian, west as well as east.
+    clsPlanets west;
+    cast(west, Place{"Utqiagvik", 71, 17, "N", 156, 47, "W", -9}, 1, 6, 2021, 12, 0);
+    EXPECT_EQ(SunDayKind(west), SunDay::MidnightSun);
+    EXPECT_DOUBLE_EQ(west.SunRiseTime(), 7.27); // 156 deg 47 min W runs 1 h 27 min behind zone -9
+    EXPECT_DOUBLE_EQ(west.SunSetTime(), 19.27);
+}
+
+// A day beyond the polar circles that has a sunrise and a sunset keeps the times of 65 degrees on
+// the same meridian, where the Lagna is bound (the Lagna and bhavas are those of 65 degrees).
+TEST(SunEvents, PolarDaysWithSunriseTakeTheSunOfTheBoundLatitude)
+{
+    ScopedSettingsStore store;
+    for (const char *ns : {"N", "S"}) {
+        for (int hour : {3, 11, 17}) {
+            SCOPED_TRACE(std::string(ns) + " " + std::to_string(hour));
+            const Place polar{"polar", 75, 0, ns, 18, 57, "E", 1};
+            const Place bound{"bound", 65, 0, ns, 18, 57, "E", 1};
             clsPlanets far, at;
-            cast(far, polar, 21, k.month, 2021, hour, 0);
-            cast(at, bound, 21, k.month, 2021, hour, 0);
+            cast(far, polar, 21, 3, 2021, hour, 0);
+            cast(at, bound, 21, 3, 2021, hour, 0);
+            EXPECT_EQ(SunDayKind(far), SunDay::Normal);
             EXPECT_EQ(far.PlanetLongi(0), at.PlanetLongi(0));
             EXPECT_EQ(far.BhavMid(4), at.BhavMid(4));
-
-            const long before = clsPlanets::CalculateCount();
             EXPECT_EQ(far.SunRiseTime(), at.SunRiseTime());
             EXPECT_EQ(far.SunSetTime(), at.SunSetTime());
             EXPECT_EQ(far.NightDuration(), at.NightDuration());
-            EXPECT_LT(clsPlanets::CalculateCount() - before, 2 * 3 * 80);
-            const double day = far.DayDuration();
-            EXPECT_GT(day, k.dayAbove);
-            EXPECT_LT(day, k.dayBelow);
-            EXPECT_NEAR(day + far.NightDuration(), 24, 0.3);
+            EXPECT_NEAR(far.DayDuration(), 12, 1);
         }
     }
+}
+
+// At 69 N the midnight sun lasts from late May to late July: one unbroken run of days, each told
+// by the Sun's declination (from the ephemeris, at local mean noon) against 90 - 69 = 21 degrees.
+// On the days either side the day's sunrise is searched for while the neighbour day's follows the
+// equal day, and day and night still come out finite.
+TEST(SunEvents, TheEdgeDaysOfTheMidnightSunAtSixtyNineNorth)
+{
+    ScopedSettingsStore store;
+    const Place place{"69N", 69, 0, "N", 18, 57, "E", 1};
+    QDate day(2021, 5, 1);
+    int runs = 0, polar = 0;
+    SunDay previous = SunDay::Normal;
+    for (; day <= QDate(2021, 7, 31); day = day.addDays(1)) {
+        SCOPED_TRACE(day.toString(Qt::ISODate).toStdString());
+        clsPlanets chart;
+        cast(chart, place, day.day(), day.month(), day.year(), 12, 0);
+        const SunDay kind = SunDayKind(chart);
+        EXPECT_NE(kind, SunDay::PolarNight);
+        runs += kind == SunDay::MidnightSun && previous != SunDay::MidnightSun;
+        polar += kind == SunDay::MidnightSun;
+        // Local mean noon at 18 deg 57 min E on zone +1 is 11:44 zone clock, 10:44 UT.
+        double xx[6];
+        char serr[AS_MAXCH];
+        swe_calc_ut(swe_julday(day.year(), day.month(), day.day(), 12 - 18.95 / 15, SE_GREG_CAL), SE_SUN, SEFLG_EQUATORIAL, xx,
+                    serr);
+        if (std::fabs(xx[1] - 21) > 0.01) {
+            EXPECT_EQ(kind == SunDay::MidnightSun, xx[1] > 21) << xx[1];
+        }
+        // Every day, and so the days either side of a change, where the search and the equal day meet.
+        EXPECT_GT(chart.DayDuration(), 11);
+        EXPECT_LE(chart.DayDuration(), 24);
+        EXPECT_GT(chart.NightDuration(), 0);
+        EXPECT_LE(chart.NightDuration(), 12);
+        previous = kind;
+    }
+    EXPECT_EQ(runs, 1);
+    EXPECT_GT(polar, 50);
+    EXPECT_LT(polar, 70);
+}
+
+// Away from the poles nothing changed: the times of three births as they were before days without
+// sunrise were told apart.
+TEST(SunEvents, TimesAtOrdinaryLatitudesAreUnchanged)
+{
+    ScopedSettingsStore store;
+    clsPlanets delhi, ushuaia;
+    cast(delhi, kPlaces[0], 15, 8, 1980, 14, 35);
+    cast(ushuaia, kPlaces[5], 3, 5, 2004, 10, 30);
+    EXPECT_EQ(SunDayKind(delhi), SunDay::Normal);
+    EXPECT_EQ(SunDayKind(ushuaia), SunDay::Normal);
+    EXPECT_DOUBLE_EQ(delhi.SunRiseTime(), 5.56);
+    EXPECT_DOUBLE_EQ(delhi.SunSetTime(), 18.56);
+    EXPECT_DOUBLE_EQ(ushuaia.SunRiseTime(), 9.06);
+    EXPECT_DOUBLE_EQ(ushuaia.SunSetTime(), 17.54);
 }
 
 // Up to the bound the program's own ascendant formula gives the ecliptic's rising point, at every
