@@ -4,6 +4,7 @@
 #include "cli/BirthOptions.h"
 #include "dasha/clsDashaVimshottari.h"
 #include "sky/Functions.h"
+#include "sky/SunEvents.h"
 #include "strength/clsShadBala.h"
 #include "yoga/CheckYogas.h"
 
@@ -140,8 +141,17 @@ QJsonObject ChartCastJson(const clsPlanets &chart)
 QJsonObject ChartDayJson(const clsPlanets &chart)
 {
     QJsonObject o;
-    o.insert(QStringLiteral("sunrise"), chart.SunRiseTime());
-    o.insert(QStringLiteral("sunset"), chart.SunSetTime());
+    // On a day without sunrise or sunset the times are null and sun_events says why; day_start and
+    // day_end are the clocks the day parts (hora, Tribhaga, the prahars) are counted from either way.
+    const SunDay kind = SunDayKind(chart);
+    const bool normal = kind == SunDay::Normal;
+    o.insert(QStringLiteral("sunrise"), normal ? QJsonValue(chart.SunRiseTime()) : QJsonValue(QJsonValue::Null));
+    o.insert(QStringLiteral("sunset"), normal ? QJsonValue(chart.SunSetTime()) : QJsonValue(QJsonValue::Null));
+    o.insert(QStringLiteral("sun_events"), normal                          ? QStringLiteral("normal")
+                                           : kind == SunDay::MidnightSun ? QStringLiteral("midnight sun")
+                                                                         : QStringLiteral("polar night"));
+    o.insert(QStringLiteral("day_start"), chart.SunRiseTime());
+    o.insert(QStringLiteral("day_end"), chart.SunSetTime());
     clsShadBala sb(chart);
     QJsonArray shadbala;
     for (int p = 1; p <= 7; ++p)

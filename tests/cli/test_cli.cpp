@@ -214,6 +214,40 @@ TEST(CommandLine, PlacesByNameOrByTheBeginningOfOne)
     EXPECT_EQ(both.status, 2);
 }
 
+// Where the Sun doesn't rise or set on the day the times are null and sun_events says why; the day
+// parts are counted from day_start and day_end, the equal day's 6:00 and 18:00 local mean time,
+// and Shadbala's figures stay numbers.
+TEST(CommandLine, JsonTellsADayWithoutSunriseOrSunset)
+{
+    ScopedSettingsStore store;
+    struct Case
+    {
+        const char *date;
+        const char *events;
+    };
+    for (const Case k : {Case{"01/06/2021", "midnight sun"}, Case{"15/12/2021", "polar night"}, Case{"21/03/2021", "normal"}}) {
+        SCOPED_TRACE(k.date);
+        const CliRun r = run({"chart", "--date", k.date, "--time", "12.00", "--lat", "75:00N", "--lon", "18:57E", "--gmt", "+01.00",
+                              "--json"});
+        ASSERT_EQ(r.status, 0) << r.err.toStdString();
+        const QJsonObject o = QJsonDocument::fromJson(r.out.toUtf8()).object();
+        EXPECT_EQ(o["sun_events"].toString(), k.events);
+        const bool normal = QLatin1String(k.events) == QLatin1String("normal");
+        EXPECT_EQ(o["sunrise"].isNull(), !normal);
+        EXPECT_EQ(o["sunset"].isNull(), !normal);
+        if (normal) {
+            EXPECT_EQ(o["day_start"], o["sunrise"]);
+            EXPECT_EQ(o["day_end"], o["sunset"]);
+        } else {
+            EXPECT_DOUBLE_EQ(o["day_start"].toDouble(), 5.44);
+            EXPECT_DOUBLE_EQ(o["day_end"].toDouble(), 17.44);
+        }
+        for (const QJsonValue &planet : o["shadbala"].toArray())
+            for (const char *key : {"kala", "total", "rupas"})
+                EXPECT_TRUE(planet.toObject()[key].isDouble()) << key;
+    }
+}
+
 TEST(CommandLine, JsonGrowsWithTheSunBhavasPanchangAndDivisions)
 {
     ScopedSettingsStore store;
@@ -225,6 +259,7 @@ TEST(CommandLine, JsonGrowsWithTheSunBhavasPanchangAndDivisions)
     EXPECT_LT(o["sunrise"].toDouble(), 6.3);
     EXPECT_GT(o["sunset"].toDouble(), 18.3);
     EXPECT_LT(o["sunset"].toDouble(), 19.5);
+    EXPECT_EQ(o["sun_events"].toString(), "normal");
     EXPECT_EQ(o["bhava_mid"].toArray().size(), 13);
     EXPECT_EQ(o["bhava_begin"].toArray().size(), 13);
     EXPECT_DOUBLE_EQ(o["bhava_mid"].toArray()[0].toDouble(), o["planets"].toArray()[0].toObject()["longitude"].toDouble());
