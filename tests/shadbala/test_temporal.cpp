@@ -195,3 +195,32 @@ TEST_F(Temporal, MotionTablesReadDigitByDigit)
     chart.Person() = MakePerson(1, 1, 1900, 0, 0, "5.5", 20, 0, "N", 75, 50, "E");
     EXPECT_NEAR(clsShadBala(chart).DaysSince1900(), -1.0, 1e-12);
 }
+
+// At 75 N the Sun doesn't set on 1 June 2021 nor rise on 15 December: the thirds of the day and
+// night and the hours are counted on the equal day, 6:00 to 18:00 local mean time (5.44 to 17.44 on
+// this meridian and zone), as they would be were those the sunrise and sunset.
+TEST_F(Temporal, ThePartsOfADayWithoutSunriseFollowTheEqualDay)
+{
+    // Tuesday 9.50 under the midnight sun: 4 h 6 min into the day, the second third (the Sun's)
+    // and the fifth hour (Mars, Sun, Venus, Mercury, Moon).
+    chart.Person() = MakePerson(1, 6, 2021, 9, 50, "1", 75, 0, "N", 18, 57, "E");
+    chart.Calculate();
+    clsShadBala june(chart);
+    EXPECT_TRUE(chart.DayBirth());
+    EXPECT_EQ(june.GetTriBhaga(), 2);
+    EXPECT_EQ(row([&](int p) { return june.SBTriBhagaBala(p); }), "60.00 0.00 0.00 0.00 60.00 0.00 0.00");
+    EXPECT_EQ(june.HoraLordOfBirth(), 7);
+    EXPECT_EQ(row([&](int p) { return june.SBHoraBala(p); }), "0.00 0.00 0.00 0.00 0.00 0.00 60.00");
+
+    // Wednesday 20.00 in the polar night: 2 h 16 min after the equal day's end, the first third of
+    // the night (the Moon's); the fifteenth hour from 5.44, which is Mercury's like the first.
+    chart.Person() = MakePerson(15, 12, 2021, 20, 0, "1", 75, 0, "N", 18, 57, "E");
+    chart.Calculate();
+    clsShadBala december(chart);
+    EXPECT_FALSE(chart.DayBirth());
+    EXPECT_EQ(december.GetTriBhaga(), 1);
+    EXPECT_EQ(row([&](int p) { return december.SBTriBhagaBala(p); }), "0.00 0.00 0.00 0.00 60.00 0.00 60.00");
+    EXPECT_EQ(december.HoraLordOfBirth(), 2);
+    for (int p = 1; p <= 7; ++p)
+        EXPECT_TRUE(std::isfinite(december.TotalShadBala(p).toDouble())) << p;
+}
