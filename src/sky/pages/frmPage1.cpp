@@ -9,6 +9,8 @@
 #include <QDateTime>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 constexpr int kLeftX = 30, kRightX = 400;
 constexpr int kLabelW = 150, kValueW = 190;
@@ -52,6 +54,8 @@ void frmPage1::fill()
     const QString firstLetter = c.FindFirstLetters((nak - 1) * 4 + c.NakPada());
     const int varga = BirthFacts::Varga(firstLetter);
     const int prahar = BirthFacts::Prahar(c);
+    // A day without sunrise or sunset: the prahar is counted on the equal day, and the page says so.
+    const QString dayRule = BirthFacts::SunDayRule(c);
     const QDateTime moment(born, QTime(static_cast<int>(p.Hour()), static_cast<int>(p.Minutes())), Qt::UTC);
     Facts avakahada{
         {gen("Lagna"), c.ConvertRashi(lagna)},
@@ -79,7 +83,7 @@ void frmPage1::fill()
         {gen("SunSi"), c.FindSunSign()},
         {gen("Months"), c.GetVikramiMonth(clsPlanets::VikramiMonth(c.PlanetLongi(1), moment))},
         {gen("Day"), c.GetDayName(weekday)},
-        {gen("Prahar"), prahar ? QString::number(prahar) : QStringLiteral("-")},
+        {gen("Prahar"), !prahar ? QStringLiteral("-") : dayRule.isEmpty() ? QString::number(prahar) : QString::number(prahar) + QStringLiteral(" (equal day)")},
     };
     y = addFacts(kLeftX, y + 14, kLabelW, kValueW, gen("Avkahada"), avakahada);
 
@@ -119,5 +123,11 @@ void frmPage1::fill()
         {gen("LuckyTime"), fav("FavTime")},
         {gen("LuckyDir"), fav("FavDirection")},
     };
-    addFacts(kRightX, right + 14, kLabelW, kValueW, gen("Favourable"), favourable);
+    right = addFacts(kRightX, right + 14, kLabelW, kValueW, gen("Favourable"), favourable);
+
+    if (!dayRule.isEmpty()) {
+        const int below = std::max(y, right) + 10;
+        addLabel(QRect(kLeftX, below, kWidth - 2 * kLeftX, 18), BirthFacts::SunDayWords(c) + QStringLiteral(" on this day."), SmallBold);
+        addLabel(QRect(kLeftX, below + 18, kWidth - 2 * kLeftX, 18), dayRule + QStringLiteral(" (day and night of 12 hours)."), Small);
+    }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "strength/pages/frmShadbala.h"
 
+#include "sky/BirthFacts.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 #include "strength/clsShadBala.h"
@@ -55,4 +56,12 @@ void frmShadbala::fill()
             ->setText(c.GetHeadValue(1, figures[clsShadBala::RowStrong], QStringLiteral("ShadBala")).toString());
     }
     m_cells = t.cells;
+
+    // On a day without sunrise or sunset the figures counted from them (Tribhaga, Hora) follow the
+    // equal day; the page says which.
+    const QString rule = BirthFacts::SunDayRule(c);
+    if (!rule.isEmpty())
+        addLabel(QRect(30, t.rect.bottom() + 8, 700, 18),
+                 BirthFacts::SunDayWords(c) + QStringLiteral(". Tribhaga and Hora Bala: ") + rule.section(QStringLiteral(": "), 1) + QLatin1Char('.'),
+                 Small);
 }
