@@ -39,8 +39,11 @@ const std::map<QString, Range> &ranges()
         {"bhava_mid", {0, 360, false}},
         {"bhava_begin", {0, 360, false}},
         {"sidereal_time", {0, 24, false}},
-        {"sunrise", {0, 24, false}},
-        {"sunset", {0, 24, false}},
+        // Null on a day the Sun doesn't rise or set; day_start and day_end are always clocks.
+        {"sunrise", {0, 24, false, true}},
+        {"sunset", {0, 24, false, true}},
+        {"day_start", {0, 24, false}},
+        {"day_end", {0, 24, false}},
         {"obliquity", {23, 24, true}},
         {"ayanamsa_type", {1, 15, true}},
         // The divisional signs; a division the table doesn't fill is Empty.
@@ -209,7 +212,7 @@ TEST(Sweep, RandomBirthsGiveOnlyFiniteValuesInTheirRanges)
                                                                      : 20240601);
     Walker walker;
     QStringList faults;
-    int vakya = 0, polar = 0;
+    int vakya = 0, polar = 0, polarDays = 0;
     for (int i = 0; i < births; ++i) {
         const Birth b = randomBirth(rng, i);
         vakya += b.vakya;
@@ -220,8 +223,20 @@ TEST(Sweep, RandomBirthsGiveOnlyFiniteValuesInTheirRanges)
         walker.faults.clear();
         walker.walk(ChartCastJson(chart), QString(), QString());
         // The members that recast the chart through the day cost ten times the rest: a sample.
-        if (i % kDaySample == 0)
-            walker.walk(ChartDayJson(chart), QString(), QString());
+        if (i % kDaySample == 0) {
+            const QJsonObject day = ChartDayJson(chart);
+            walker.walk(day, QString(), QString());
+            // The times are null exactly on the days without them, and only beyond the polar circles.
+            const QString events = day[QStringLiteral("sun_events")].toString();
+            const bool normal = events == QLatin1String("normal");
+            if (!normal && events != QLatin1String("midnight sun") && events != QLatin1String("polar night"))
+                walker.faults << QStringLiteral("sun_events reads \"%1\"").arg(events);
+            if (day[QStringLiteral("sunrise")].isNull() == normal || day[QStringLiteral("sunset")].isNull() == normal)
+                walker.faults << QStringLiteral("sunrise and sunset null on a %1 day").arg(events);
+            if (!normal && b.latDeg < 66)
+                walker.faults << QStringLiteral("%1 at %2 degrees").arg(events).arg(b.latDeg);
+            polarDays += !normal;
+        }
         // The cusps say which system gave them: Placidus wherever it has an answer.
         const double latitude = b.latDeg + b.latMin / 60.0;
         if ((latitude < 66.5 && !chart.KPHousesPlacidus()) || (latitude > 66.6 && chart.KPHousesPlacidus()))
@@ -239,4 +254,5 @@ TEST(Sweep, RandomBirthsGiveOnlyFiniteValuesInTheirRanges)
         EXPECT_GT(walker.seen[member], 0) << member.toStdString();
     EXPECT_GT(vakya, births / 8);
     EXPECT_GT(polar, births / 20);
+    EXPECT_GT(polarDays, 0);
 }
