@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace {
 QString g_stuffFolder;
@@ -281,5 +282,9 @@ long TagEntryScore(const QString &block, const QString &entry)
     const qsizetype dash = rest.indexOf(QLatin1Char('-'));
     if (dash < 0)
         return 0;
-    return static_cast<long>(Fix(Val(rest.mid(dash + 1))));
+    // A number beyond a long is no score (the classic reader stops with an overflow there).
+    const double score = Fix(Val(rest.mid(dash + 1)));
+    if (!(score >= double(std::numeric_limits<long>::min()) && score < double(std::numeric_limits<long>::max())))
+        return 0;
+    return static_cast<long>(score);
 }

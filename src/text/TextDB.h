@@ -58,5 +58,5 @@ QString TagBlock(const QString &text, const QString &key);
 // "/" is absent.
 QChar TagClosingLetter(const QString &block, const QString &item);
 // In block, the entry that starts with entry: cut at the next "|", take what follows its first
-// "-" and truncate it to a whole number. 0 when the entry is absent.
+// "-" and truncate it to a whole number. 0 when the entry is absent or its number is beyond a long.
 long TagEntryScore(const QString &block, const QString &entry);
