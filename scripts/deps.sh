@@ -11,6 +11,7 @@ PACKAGES=(
   libzip-dev libsqlite3-dev sqlite3
   tzdata fonts-freefont-ttf fonts-dejavu-core
   poppler-utils xdg-utils
+  clang libclang-rt-dev llvm   # libFuzzer and symbolized sanitizer reports
 )
 
 missing=()
