@@ -70,16 +70,19 @@ TEST(Layers, OnlyTheCompositionRootKnowsEveryone)
     const Graph g = includeGraph();
     ASSERT_TRUE(g.count("app") && g.count("output/ui") && g.count("sky")) << "the source tree wasn't found";
     for (const auto &[from, to] : g) {
-        if (from != "app")
+        if (from != "app") {
             EXPECT_FALSE(to.count("app")) << from << " includes app/";
+        }
         // The topic output draws any page through the registry, never by including it.
-        if (from.starts_with("output"))
+        if (from.starts_with("output")) {
             for (const std::string &t : to)
                 EXPECT_TRUE(!isWidgetFolder(t) || t == "output/ui" || t == "chartdraw/ui") << from << " includes " << t;
+        }
         // The computation never includes a form.
-        if (!isWidgetFolder(from))
+        if (!isWidgetFolder(from)) {
             for (const std::string &t : to)
                 EXPECT_FALSE(isWidgetFolder(t)) << from << " includes " << t;
+        }
     }
 }
 
