@@ -77,8 +77,9 @@ TEST(PrintTree, EveryStepOfAWalkIsANodeOfItsTreeAndTheRootComesFirst)
             // A parent stands before its children.
             QStringList seen;
             for (const PrintNode &n : tree) {
-                if (!n.Parent.isEmpty())
+                if (!n.Parent.isEmpty()) {
                     EXPECT_TRUE(seen.contains(n.Parent)) << n.Caption.toStdString();
+                }
                 seen << (n.Key.isEmpty() ? n.Caption : n.Key);
             }
         }
