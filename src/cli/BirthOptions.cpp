@@ -236,22 +236,11 @@ Birth checked(const Birth &b)
 // Copies the fields into the chart's person as Generate does.
 void fillPerson(const Birth &b, clsPerson &person)
 {
-    const BirthFields &f = b.fields;
-    const BirthValues v = ReadBirthValues(f).value_or(BirthValues{}); // checked before
+    SetBirthNumbers(person, ReadBirthValues(b.fields).value_or(BirthValues{})); // checked before
     person.setName(b.name);
     person.setSex(b.sex);
-    person.setDay(v.day);
-    person.setMonth(v.month);
-    person.setYear(v.year);
-    person.setHour(v.hour);
-    person.setMinutes(v.minute);
     person.setAMPM(person.Hour() >= 12 ? 2 : 1);
-    person.setGMTDIFF(NumText(GmtTextToHours(f.gmt)));
-    person.setLatDeg(v.latDeg);
-    person.setLatMT(v.latMin);
     person.setTextNS(b.ns);
-    person.setLongDeg(v.lonDeg);
-    person.setLongMT(v.lonMin);
     person.setTextEW(b.ew);
     person.setTimeCorr(b.tcorr);
     person.setTimeCorrInde(b.tcorrGiven ? 4 : b.tcorrIndex);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/EntryValidation.h"
 
+#include "session/clsPerson.h"
 #include "sky/Functions.h"
 #include "sky/clsVakya.h"
 
@@ -149,6 +150,20 @@ std::optional<BirthValues> ReadBirthValues(const BirthFields &f)
     v.lonMin = lon->minutes;
     v.gmt = gmt ? gmt->text() : f.gmt;
     return v;
+}
+
+void SetBirthNumbers(clsPerson &person, const BirthValues &v)
+{
+    person.setDay(v.day);
+    person.setMonth(v.month);
+    person.setYear(v.year);
+    person.setHour(v.hour);
+    person.setMinutes(v.minute);
+    person.setGMTDIFF(NumText(GmtTextToHours(v.gmt)));
+    person.setLatDeg(v.latDeg);
+    person.setLatMT(v.latMin);
+    person.setLongDeg(v.lonDeg);
+    person.setLongMT(v.lonMin);
 }
 
 std::vector<EntryMessage> ValidateEntry(const BirthFields &f)

@@ -92,3 +92,8 @@ struct BirthValues
 };
 // The values of fields that ValidateEntry passes; nothing for fields it refuses.
 std::optional<BirthValues> ReadBirthValues(const BirthFields &fields);
+
+// Copies the date, clock, place and zone of the values into a person, as Generate does (the zone
+// as decimal hours).
+class clsPerson;
+void SetBirthNumbers(clsPerson &person, const BirthValues &values);

@@ -551,22 +551,12 @@ bool frmLogin::ValidateEntry()
 void frmLogin::fillPerson(BirthPanel *p, clsPerson &person, int sex) const
 {
     // Generate has passed ValidateEntry: the boxes read as their checks read them.
-    const BirthValues v = ReadBirthValues(p->Fields()).value_or(BirthValues{});
+    SetBirthNumbers(person, ReadBirthValues(p->Fields()).value_or(BirthValues{}));
     person.setName(p->cmbName->currentText().trimmed());
-    person.setDay(v.day);
-    person.setMonth(v.month);
-    person.setYear(v.year);
-    person.setHour(v.hour);
-    person.setMinutes(v.minute);
     person.setAMPM(p->optAM->isChecked() ? 1 : 2);
     person.setPLOB(p->cmbPlace->currentText());
     person.setSex(sex);
     person.setCountry(p->cmbCountry->currentText());
-    person.setGMTDIFF(NumText(GmtTextToHours(p->txtGMT->text())));
-    person.setLatDeg(v.latDeg);
-    person.setLatMT(v.latMin);
-    person.setLongDeg(v.lonDeg);
-    person.setLongMT(v.lonMin);
     person.setTextNS(p->txtNS->text());
     person.setTextEW(p->txtEW->text());
     person.setTimeCorr(p->txtTCorr->text());
