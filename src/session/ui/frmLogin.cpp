@@ -199,8 +199,8 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
             const QSignalBlocker block(p->cmbCountry);
             p->cmbCountry->addItems(countries);
             p->cmbCountry->setCurrentText(QStringLiteral("India"));
-            fillPlaces(p, QStringLiteral("India"));
         }
+        fillPlaces({single, boy, gal}, QStringLiteral("India"));
     }
     m_languages = Languages::Offered(Languages::Load());
     for (const LanguageRow &l : m_languages)
@@ -377,7 +377,7 @@ void frmLogin::countryTyped(BirthPanel *p, const QString &text, bool picked)
     const QString gmt = q.value(1).toString();
     p->txtGMT->setText(gmt.isEmpty() ? (picked ? QStringLiteral("-00.00") : QStringLiteral("+00.00")) : gmt);
     if (picked)
-        fillPlaces(p, q.value(0).toString());
+        fillPlaces({p}, q.value(0).toString());
     else
         postText(QStringLiteral("If the country is %1, Press 'Enter' to update automatically.").arg(q.value(0).toString()));
 }
@@ -394,7 +394,7 @@ QString coordinate(const QString &column, const QString &letter)
 }
 } // namespace
 
-void frmLogin::fillPlaces(BirthPanel *p, const QString &country)
+void frmLogin::fillPlaces(std::initializer_list<BirthPanel *> panels, const QString &country)
 {
     QSqlQuery q(Session().RecDB);
     q.prepare(QStringLiteral("SELECT rowid, City, Lat, Longy, NOSO, EaWe FROM City WHERE Country = ? ORDER BY City, rowid"));
@@ -413,16 +413,21 @@ void frmLogin::fillPlaces(BirthPanel *p, const QString &country)
                                   + coordinate(q.value(3).toString(), q.value(5).toString())});
             ++seen[places.back().name.toCaseFolded()];
         }
-    const QSignalBlocker block(p->cmbPlace);
-    const QString current = p->cmbPlace->currentText();
-    p->cmbPlace->clear();
-    for (const Place &place : places) {
-        // Places of one name in one country are told apart by where they lie.
-        const bool shared = seen.value(place.name.toCaseFolded()) > 1;
-        p->cmbPlace->addItem(shared ? QStringLiteral("%1 (%2)").arg(place.name, place.where) : place.name, place.id);
-        p->cmbPlace->setItemData(p->cmbPlace->count() - 1, place.name, kPlaceNameRole);
+    // Places of one name in one country are told apart by where they lie.
+    QStringList shown;
+    shown.reserve(static_cast<qsizetype>(places.size()));
+    for (const Place &place : places)
+        shown << (seen.value(place.name.toCaseFolded()) > 1 ? QStringLiteral("%1 (%2)").arg(place.name, place.where) : place.name);
+    for (BirthPanel *p : panels) {
+        const QSignalBlocker block(p->cmbPlace);
+        const QString current = p->cmbPlace->currentText();
+        p->cmbPlace->clear();
+        for (size_t i = 0; i < places.size(); ++i) {
+            p->cmbPlace->addItem(shown[static_cast<qsizetype>(i)], places[i].id);
+            p->cmbPlace->setItemData(p->cmbPlace->count() - 1, places[i].name, kPlaceNameRole);
+        }
+        p->cmbPlace->setEditText(current);
     }
-    p->cmbPlace->setEditText(current);
 }
 
 void frmLogin::placeTyped(BirthPanel *p, const QString &text, bool picked)
@@ -737,7 +742,7 @@ void frmLogin::cmdAdHorCity_Click()
         showMessage({0, r.text, r.title});
         return;
     }
-    fillPlaces(p, f.Country);
+    fillPlaces({p}, f.Country);
     postText(QStringLiteral("%1, %2 is saved in the atlas.").arg(f.City, f.Country));
 }
 

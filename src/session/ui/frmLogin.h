@@ -86,7 +86,8 @@ private:
     void countryTyped(BirthPanel *p, const QString &text, bool picked);
     void placeTyped(BirthPanel *p, const QString &text, bool picked);
     void applyZoneHistory(BirthPanel *p);
-    void fillPlaces(BirthPanel *p, const QString &country);
+    // The places of a country into the place lists of the panels, read once for all of them.
+    void fillPlaces(std::initializer_list<BirthPanel *> panels, const QString &country);
     bool checkField(BirthPanel *p, QWidget *field);
     PersonRow rowFromPanel(BirthPanel *p, const QString &name) const;
     void fillPerson(BirthPanel *p, clsPerson &person, int sex) const;
