@@ -9,7 +9,7 @@
 #include "output/ui/frmStatus.h"
 #include "output/ui/TopicPage.h"
 
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 #include "session/Session.h"
 #include "session/ui/frmCalcOptions.h"
 #include "session/ui/frmEditLongLat.h"

@@ -2,6 +2,7 @@
 #include "chartdraw/ChartFill.h"
 
 #include "chartdraw/KundaliModel.h"
+#include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 
 void FillVargaKundali(KundaliModel &k, const clsPlanets &c, int row, bool english)
@@ -15,4 +16,26 @@ void FillVargaKundali(KundaliModel &k, const clsPlanets &c, int row, bool englis
             name += QStringLiteral("(R)");
         k.PlanetPlace(c.PrediVarga(n, row), name);
     }
+}
+
+// The chalit chart: each planet in the sign that its bhava stands in, counted from the Lagna.
+namespace {
+template <typename NameOf> void fillChalit(const clsPlanets &c, KundaliModel &k, NameOf nameOf)
+{
+    const int r = c.PlanetRashiNum(0);
+    k.setHouseNumber(r);
+    k.PlanetPlace(r, nameOf(0));
+    for (int p = 1; p <= 12; ++p)
+        k.PlanetPlace(Norm12(r + c.ChalitBhava(p)), nameOf(p));
+}
+} // namespace
+
+void clsPlanets::FillBhavaKundali(KundaliModel &k) const
+{
+    fillChalit(*this, k, [this](int p) { return PlanetName(p); });
+}
+
+void clsPlanets::FillBhavaKundaliEnglish(KundaliModel &k) const
+{
+    fillChalit(*this, k, [](int p) { return PlanetNameEng(p); });
 }

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "cli/BirthOptions.h"
 
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 #include "session/AtlasLookup.h"
 #include "session/DataPaths.h"
 #include "session/EntryValidation.h"
 #include "session/ZoneHistory.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 #include "text/TextDB.h"
 
 #include <QCommandLineParser>

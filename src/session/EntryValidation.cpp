@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/EntryValidation.h"
 
-#include "session/clsPerson.h"
+#include "sky/clsPerson.h"
 #include "sky/Functions.h"
 #include "sky/clsVakya.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The person as a cursor on the store.
 #include "session/PersonStore.h"
-#include "session/clsPerson.h"
+#include "sky/clsPerson.h"
 
 #include <algorithm>
 

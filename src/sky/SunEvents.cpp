@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "sky/SunEvents.h"
 
-#include "muhurtha/clsGochara.h"
+#include "sky/clsGochara.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 

@@ -2,7 +2,7 @@
 // Casting: clock time to universal time, positions from the ephemeris, the ayanamsa.
 #include "sky/clsPlanets.h"
 
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 #include "sky/Functions.h"
 #include "sky/SwissEphemeris.h"
 

@@ -4,7 +4,7 @@
 // Planet numbers: 0 Lagna, 1 Sun, 2 Mercury, 3 Venus, 4 Mars, 5 Jupiter, 6 Saturn, 7 Moon,
 // 8 Rahu, 9 Ketu, 10 Uranus, 11 Neptune, 12 Pluto.
 
-#include "session/clsPerson.h"
+#include "sky/clsPerson.h"
 #include "sky/clsVakya.h"
 
 #include <QDateTime>

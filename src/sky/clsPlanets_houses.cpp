@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The Lagna and the twelve bhavas, from the local sidereal time by the program's own trigonometry.
 #include "sky/clsPlanets.h"
-#include "chartdraw/KundaliModel.h"
 
 #include "sky/Functions.h"
 
@@ -117,27 +116,6 @@ int clsPlanets::ChalitBhava(int p) const
             return k;
     }
     return 11;
-}
-
-namespace {
-template <typename NameOf> void fillChalit(const clsPlanets &c, KundaliModel &k, NameOf nameOf)
-{
-    const int r = c.PlanetRashiNum(0);
-    k.setHouseNumber(r);
-    k.PlanetPlace(r, nameOf(0));
-    for (int p = 1; p <= 12; ++p)
-        k.PlanetPlace(Norm12(r + c.ChalitBhava(p)), nameOf(p));
-}
-} // namespace
-
-void clsPlanets::FillBhavaKundali(KundaliModel &k) const
-{
-    fillChalit(*this, k, [this](int p) { return PlanetName(p); });
-}
-
-void clsPlanets::FillBhavaKundaliEnglish(KundaliModel &k) const
-{
-    fillChalit(*this, k, [](int p) { return PlanetNameEng(p); });
 }
 
 void clsPlanets::setBhavBegin(int i, double v)

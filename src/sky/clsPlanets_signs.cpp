@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-// Signs, nakshatras, the panchang of the birth and the marriage attributes of the Moon, with
-// the text look-ups through which their names are read.
+// Signs, nakshatras, the panchang of the birth and the marriage attributes of the Moon; their
+// names are read through the text look-ups of text/clsPlanets_text.cpp.
 #include "sky/clsPlanets.h"
 
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 #include "sky/Functions.h"
-#include "text/MessageSink.h"
-#include "text/TextDB.h"
-
+#include "sky/MessageSink.h"
 
 #include <array>
 #include <cmath>
@@ -135,39 +133,6 @@ double pastNakshatraStart(double l)
     return r < 0 ? 0 : r;
 }
 } // namespace
-
-// ---- text look-ups ----
-
-QVariant clsPlanets::GetHeadValue(int type, const QVariant &head, const QString &category) const
-{
-    return ::GetHeadValue(m_textDb, type, head, category);
-}
-
-QVariant clsPlanets::GetTextBetween(const QString &table, const QVariant &head, const QString &category) const
-{
-    return ::GetTextBetween(m_textDb, table, head, category);
-}
-
-QVariant clsPlanets::GetGenText(const QVariant &head) const { return ::GetGenText(m_textDb, head); }
-
-QVariant clsPlanets::GetConjText(const QVariant &head) const { return ::GetConjText(m_textDb, head); }
-
-QString clsPlanets::memoText(const QString &category, const QVariant &key) const
-{
-    if (m_textMemoConnection != m_textDb.connectionName()) {
-        m_textMemo.clear();
-        m_textMemoConnection = m_textDb.connectionName();
-    }
-    const QString k = TextKey(key);
-    const QString memoKey = category + QLatin1Char('\x1f') + k.toUpper();
-    const auto it = m_textMemo.constFind(memoKey);
-    if (it != m_textMemo.constEnd())
-        return *it;
-    const QVariant v = GetHeadValue(1, k, category);
-    if (v.isValid())
-        m_textMemo.insert(memoKey, v.toString());
-    return v.toString();
-}
 
 QString clsPlanets::AyanamshName() const
 {

@@ -2,7 +2,7 @@
 // The weekdays on which the Sun began the solar year and the solar month of the birth.
 #include "sky/clsPlanets.h"
 
-#include "muhurtha/clsGochara.h"
+#include "sky/clsGochara.h"
 #include "sky/Functions.h"
 
 #include <QDateTime>

@@ -3,7 +3,7 @@
 
 #include "session/DataPaths.h"
 #include "sky/Functions.h"
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 
 #include <QFileInfo>
 #include <QHash>

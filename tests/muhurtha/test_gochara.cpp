@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The time search against the ephemeris: the moments it finds are worked out again here by
 // bisection over universal time, from Swiss Ephemeris and the Lahiri formula.
-#include "muhurtha/clsGochara.h"
+#include "sky/clsGochara.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 #include "support/TestSupport.h"

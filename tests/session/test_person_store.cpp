@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/PersonStore.h"
-#include "session/clsPerson.h"
+#include "sky/clsPerson.h"
 
 #include <QFile>
 #include <QSqlQuery>

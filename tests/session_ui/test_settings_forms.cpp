@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The settings dialogs: the setup wizard, Options (atlas, calculation, details), Regional
 // Settings and the silenceable message.
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 #include "session/Session.h"
 #include "session/clsIni.h"
 #include "session/ui/frmCalcOptions.h"

@@ -3,7 +3,7 @@
 // sign by sign, and at the edges of their degree ranges.
 #include "sky/clsPlanets.h"
 #include "support/TestSupport.h"
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 #include "text/TextDB.h"
 
 #include <gtest/gtest.h>

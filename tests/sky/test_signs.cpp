@@ -2,7 +2,7 @@
 // Signs, nakshatras, the panchang and the Moon's marriage attributes at their boundaries.
 #include "sky/clsPlanets.h"
 #include "support/TestSupport.h"
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 #include "text/TextDB.h"
 
 #include <gtest/gtest.h>

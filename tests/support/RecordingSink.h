@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 // A message sink that keeps what the core reports, so that a test can fail on a missing text key.
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 
 #include <QStringList>
 

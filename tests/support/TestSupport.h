@@ -2,8 +2,8 @@
 #pragma once
 // Shared pieces of the tests: a throw-away settings store and birth records.
 
-#include "session/AppSettings.h"
-#include "session/clsPerson.h"
+#include "sky/AppSettings.h"
+#include "sky/clsPerson.h"
 
 #include <QString>
 #include <QTemporaryDir>

@@ -3,7 +3,7 @@
 // varied charts through all of them, failing on any "Item Not Found".
 #include "sky/clsPlanets.h"
 #include "support/TestSupport.h"
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 #include "text/TextDB.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 #include "sky/clsPlanets.h"
 #include "support/TestSupport.h"
 #include "text/GenLabel.h"
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 #include "text/TextDB.h"
 
 #include <gtest/gtest.h>

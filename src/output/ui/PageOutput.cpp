@@ -6,7 +6,7 @@
 #include "output/ui/TextPage.h"
 #include "output/ui/TopicPage.h"
 #include "session/Session.h"
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>

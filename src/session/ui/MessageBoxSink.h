@@ -2,7 +2,7 @@
 #pragma once
 // The windowed program's answer to the core's messages: a message box with a title.
 
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 
 #include <QApplication>
 #include <QMessageBox>

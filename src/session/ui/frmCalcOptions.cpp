@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/ui/frmCalcOptions.h"
 
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>

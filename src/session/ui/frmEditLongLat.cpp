@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "session/ui/frmEditLongLat.h"
 
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 #include "session/Session.h"
 #include "session/clsIni.h"
 #include "session/ui/frmMessage.h"

@@ -3,7 +3,7 @@
 
 #include "text/TextDB.h"
 
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 #include "session/DataPaths.h"
 #include "session/Hints.h"
 #include "session/Languages.h"

@@ -5,7 +5,7 @@
 #include "session/EntryValidation.h"
 #include "session/Languages.h"
 #include "session/PersonStore.h"
-#include "session/clsPerson.h"
+#include "sky/clsPerson.h"
 #include "session/ui/BirthPanel.h"
 
 #include <QLabel>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 
 #include <QDir>
 #include <QHash>

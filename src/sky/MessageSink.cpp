@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 
 #include <cstdio>
 #include <cstdlib>

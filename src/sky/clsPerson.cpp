@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "session/clsPerson.h"
+#include "sky/clsPerson.h"
 
 #include "sky/Functions.h"
 

@@ -2,7 +2,7 @@
 // The time search. Each pass estimates a rate in minutes of time per degree of motion, from the
 // body's usual motion, the chart's own speed and the last two passes, and moves the working chart
 // by the distance still to go times that rate.
-#include "muhurtha/clsGochara.h"
+#include "sky/clsGochara.h"
 
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
