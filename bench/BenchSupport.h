@@ -2,8 +2,8 @@
 #pragma once
 // Shared pieces of the benchmark programs: the birth they cast and their main().
 
-#include "session/AppSettings.h"
-#include "session/clsPerson.h"
+#include "sky/AppSettings.h"
+#include "sky/clsPerson.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

@@ -8,7 +8,7 @@
 // figure, which becomes the iteration's time. The counter "process_ms" adds the launch of the
 // executable (loading the libraries) and its exit. BM_SplashAndMainWindow repeats the
 // program's own part inside one running application, without Qt's start.
-#include "session/AppSettings.h"
+#include "sky/AppSettings.h"
 #include "session/ui/MessageBoxSink.h"
 #include "session/ui/frmMessage.h"
 #include "session/ui/frmSplash.h"

@@ -3,7 +3,7 @@
 
 #include "session/AtlasLookup.h"
 #include "session/Languages.h"
-#include "text/MessageSink.h"
+#include "sky/MessageSink.h"
 #include "text/TextDB.h"
 
 #include <QDir>
