@@ -2,6 +2,7 @@
 #include "app/TopicPages.h"
 
 #include "dasha/pages/frmVimsot.h"
+#include "muhurtha/pages/frmSadeSati.h"
 #include "output/ui/TopicPage.h"
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
@@ -34,4 +35,5 @@ void RegisterTopicPages()
     page<frmPratyan>("frmPratyan");
     page<frmPrediYogas>("frmPrediYogas");
     page<frmForText>("frmForText");
+    page<frmSadeSati>("frmSadeSati");
 }

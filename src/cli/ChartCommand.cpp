@@ -3,7 +3,9 @@
 
 #include "cli/BirthOptions.h"
 #include "dasha/clsDashaVimshottari.h"
+#include "muhurtha/clsSadeSati.h"
 #include "sky/Functions.h"
+#include "sky/MessageSink.h"
 #include "sky/SunEvents.h"
 #include "strength/clsShadBala.h"
 #include "yoga/CheckYogas.h"
@@ -165,6 +167,23 @@ QJsonObject ChartDayJson(const clsPlanets &chart)
                                     {QStringLiteral("total"), sb.TotalShadBala(p).toDouble()},
                                     {QStringLiteral("rupas"), sb.RupaShadbala(p).toDouble()}});
     o.insert(QStringLiteral("shadbala"), shadbala);
+
+    // Sade Sati casts the chart again on the day of each of Saturn's entries, for its Paya.
+    QJsonArray sade;
+    QSqlDatabase entries;
+    if (clsSadeSati::OpenDB(entries)) {
+        for (const SadeSatiRow &r : clsSadeSati::MakeSadeSati(chart, entries))
+            sade.append(QJsonObject{{QStringLiteral("phase"), clsSadeSati::PhaseKey(r.phase)},
+                                    {QStringLiteral("sign"), r.sign},
+                                    {QStringLiteral("entry"), clsSadeSati::ShowDate(r.entry)},
+                                    {QStringLiteral("exit"), clsSadeSati::ShowDate(r.exit)},
+                                    {QStringLiteral("paya"), r.paya}});
+        clsSadeSati::CloseDB(entries);
+    } else {
+        messageSink().warn(QStringLiteral("File Not Found"),
+                           QStringLiteral("Please Re-install Software.\nCould Not Locate SADESAT.Dat."));
+    }
+    o.insert(QStringLiteral("sade_sati"), sade);
     return o;
 }
 

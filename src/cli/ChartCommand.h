@@ -16,5 +16,5 @@ QJsonObject ChartJson(const clsPlanets &chart);
 // Vimshottari, Ashtakavarga, yogas.
 QJsonObject ChartCastJson(const clsPlanets &chart);
 // The members that cast the chart again at other moments of the day and year, some ten times
-// the cost of the rest: sunrise, sunset and Shadbala.
+// the cost of the rest: sunrise, sunset, Shadbala and Sade Sati.
 QJsonObject ChartDayJson(const clsPlanets &chart);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "output/TopicList.h"
 
+#include <QSet>
+
 #include <array>
 
 namespace {
@@ -74,10 +76,12 @@ inline constexpr std::array<Row, 2> kMuhurtha{{
     {"Muhurtha Analysis", "Analysis", "", 0},
 }};
 
-// The pages that exist so far.
-inline constexpr std::array<const char *, 12> kBuiltPages{{"frmPage1", "frmPage2", "frmSodash", "frmBhav", "frmBhinnaAshtak",
-                                                           "frmBhinnaAshtak2", "frmAshtak", "frmShadbala", "frmVimsot", "frmPratyan",
-                                                           "frmPrediYogas", "frmForText"}};
+// The pages this program has, as the page registry declares them at start.
+QSet<QString> &builtPages()
+{
+    static QSet<QString> pages;
+    return pages;
+}
 
 template <size_t N> QList<TopicEntry> build(const std::array<Row, N> &rows, size_t count, bool builtOnly)
 {
@@ -112,14 +116,9 @@ inline constexpr std::array<const char *, 4> kMarriageMenu{{
 }};
 } // namespace
 
-bool PageIsBuilt(const QString &page)
-{
-    for (const char *p : kBuiltPages) {
-        if (page == QLatin1String(p))
-            return true;
-    }
-    return false;
-}
+void DeclarePageBuilt(const QString &page) { builtPages().insert(page); }
+
+bool PageIsBuilt(const QString &page) { return builtPages().contains(page); }
 
 QList<TopicEntry> TopicsForMode(int progMode, bool extended)
 {

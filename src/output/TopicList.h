@@ -23,5 +23,7 @@ QList<TopicEntry> TopicsForMode(int progMode, bool extended);
 // The fixed items of the numbered Navigate menu of a mode (Horoscope 31, Varshaphala 8, Marriage 4).
 QStringList NavigateMenuCaptions(int progMode);
 
-// Whether a page has been built into this program.
+// Whether a page has been built into this program: the page registry declares each page it
+// registers, so a topic list shows only topics whose page exists.
 bool PageIsBuilt(const QString &page);
+void DeclarePageBuilt(const QString &page);

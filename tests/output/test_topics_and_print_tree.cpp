@@ -15,8 +15,32 @@
 
 #include <algorithm>
 
+namespace {
+// The pages the program registers at start; here without building any widget.
+void declarePages()
+{
+    for (const char *p : {"frmPage1", "frmPage2", "frmSodash", "frmBhav", "frmAshtak", "frmVimsot", "frmForText"})
+        DeclarePageBuilt(QString::fromLatin1(p));
+}
+} // namespace
+
+TEST(TopicList, OnlyTopicsWhosePageIsRegisteredAreListed)
+{
+    const QList<TopicEntry> before = TopicsForMode(1, false);
+    EXPECT_FALSE(PageIsBuilt("frmNoSuchPage"));
+    DeclarePageBuilt("frmNoSuchPage");
+    EXPECT_TRUE(PageIsBuilt("frmNoSuchPage"));
+    // A name no topic uses adds no topic.
+    EXPECT_EQ(TopicsForMode(1, false).size(), before.size());
+    declarePages();
+    const QList<TopicEntry> after = TopicsForMode(1, false);
+    EXPECT_GE(after.size(), 8) << "General Details, the positions, four Shodash topics, ...";
+    EXPECT_TRUE(std::none_of(after.begin(), after.end(), [](const TopicEntry &t) { return t.Page == "frmKP1"; }));
+}
+
 TEST(TopicList, HoroscopeTopicsKeepTheirPlaceInTheFullList)
 {
+    declarePages();
     const QList<TopicEntry> topics = TopicsForMode(1, false);
     ASSERT_FALSE(topics.isEmpty());
     int previous = -1;
@@ -41,6 +65,7 @@ TEST(TopicList, HoroscopeTopicsKeepTheirPlaceInTheFullList)
 
 TEST(TopicList, ExtendedLanguagesAddOnlyTheirOwnTopics)
 {
+    declarePages();
     const QList<TopicEntry> plain = TopicsForMode(1, false);
     const QList<TopicEntry> extended = TopicsForMode(1, true);
     ASSERT_GE(extended.size(), plain.size());

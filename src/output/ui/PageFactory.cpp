@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The registry of topic pages by name.
+#include "output/TopicList.h"
 #include "output/ui/TopicPage.h"
 
 #include <QHash>
@@ -12,7 +13,11 @@ QHash<QString, TopicPageMaker> &registry()
 }
 } // namespace
 
-void RegisterTopicPage(const QString &name, TopicPageMaker make) { registry().insert(name, std::move(make)); }
+void RegisterTopicPage(const QString &name, TopicPageMaker make)
+{
+    registry().insert(name, std::move(make));
+    DeclarePageBuilt(name);
+}
 
 TopicPage *CreateTopicPage(const QString &name, QWidget *parent)
 {
