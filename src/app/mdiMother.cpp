@@ -8,6 +8,7 @@
 #include "output/ui/frmPrint.h"
 #include "output/ui/frmStatus.h"
 #include "output/ui/TopicPage.h"
+#include "muhurtha/ui/frmVisualTransits.h"
 
 #include "sky/AppSettings.h"
 #include "session/Session.h"
@@ -199,6 +200,10 @@ void mdiMother::buildMenus()
         });
     }
 
+    view->addSeparator();
+    mnuViewTransits = view->addAction(QStringLiteral("Visual &Transits..."), this, &mdiMother::ShowVisualTransits);
+    mnuViewTransits->setObjectName(QStringLiteral("mnuViewTransits"));
+
     m_navigate = menuBar()->addMenu(QStringLiteral("&Navigate"));
     m_navigate->setObjectName(QStringLiteral("mnuNavigate"));
     mnuNavPrev = m_navigate->addAction(QStringLiteral("&Previous Topic"), this, [this] { step(-1); });
@@ -257,8 +262,12 @@ void mdiMother::buildMenus()
     connect(printTopic, &QAction::triggered, this, &mdiMother::PrintCurrentTopic);
     connect(print, &QAction::triggered, this, &mdiMother::PrintIt);
     connect(pdf, &QAction::triggered, this, &mdiMother::ExportPDF);
+    m_tools->addSeparator();
+    tbTransits = tool("Transits", "Transits", QStyle::SP_BrowserReload);
+    connect(tbTransits, &QAction::triggered, this, &mdiMother::ShowVisualTransits);
     // Output and stepping act on topics: they wait until a session has some.
-    m_outputActions << printTopic << print << pdf << tbPrevious << tbNext << mnuNavPrev << mnuNavNext;
+    m_outputActions << printTopic << print << pdf << tbPrevious << tbNext << mnuNavPrev << mnuNavNext << tbTransits
+                    << mnuViewTransits;
     for (QAction *a : m_outputActions)
         a->setEnabled(false);
     m_tools->addSeparator();
@@ -335,6 +344,11 @@ void mdiMother::BuildTopicList(int progMode)
     bBar->Clear();
     tvMap->clear();
     m_topicList = TopicsForMode(progMode, Session().Language.Extended);
+    // The moving sky turns at the birth's place: it belongs to the Horoscope.
+    for (QAction *a : {tbTransits, mnuViewTransits}) {
+        a->setEnabled(progMode == 1);
+        a->setToolTip(progMode == 1 ? QStringLiteral("Visual Transits.") : QStringLiteral("Valid Only in Horoscope Mode."));
+    }
     for (const TopicEntry &t : m_topicList)
         AddTopic(t.Caption, t.ShortName);
     // Only the numbered list of this mode shows, its items enabled where the topic is here.
@@ -575,4 +589,18 @@ void mdiMother::closeEvent(QCloseEvent *event)
     UnloadPages();
     Session().ReleaseCharts();
     event->accept();
+}
+
+void mdiMother::ShowVisualTransits()
+{
+    if (Session().ProgMode != 1 || !Session().CurPlanets)
+        return;
+    // One window at a time; it keeps turning while the user reads the pages. Closed, it is made
+    // again for the birth now in session.
+    if (m_transits && !m_transits->isVisible())
+        delete m_transits;
+    if (!m_transits)
+        m_transits = new frmVisualTransits(*Session().CurPlanets, this);
+    m_transits->show();
+    m_transits->raise();
 }

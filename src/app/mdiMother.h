@@ -11,6 +11,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <QStackedWidget>
 #include <QTextBrowser>
 
@@ -24,6 +25,7 @@ class QTreeWidget;
 class QScrollArea;
 class QSplitter;
 class QMenu;
+class frmVisualTransits;
 
 class mdiMother : public QMainWindow
 {
@@ -36,6 +38,8 @@ public:
     // Back to the entry screen: the pages are unloaded and the session's charts released; the
     // fields keep their contents.
     void ShowEntryScreen();
+    // Opens the moving sky at the place of the session's birth (Horoscope mode only).
+    void ShowVisualTransits();
     // After Generate: the name strip, the topic list of the mode and its first topic.
     void StartSession();
     // The year list of the annual reading: the birth year and the 99 after it.
@@ -76,6 +80,8 @@ public:
     QAction *tbNext;
     QAction *tbPrevious;
     QAction *tbTopicMap;
+    QAction *tbTransits;
+    QAction *mnuViewTransits;
     QMenu *mnuHorNav;
     QMenu *mnuVarNav;
     QMenu *mnuMarNav;
@@ -113,4 +119,5 @@ private:
     std::unique_ptr<PageCache> m_pages;
     TopicPage *m_active = nullptr;
     QList<QAction *> m_outputActions;
+    QPointer<frmVisualTransits> m_transits;
 };
