@@ -2,6 +2,7 @@
 #include "app/TopicPages.h"
 
 #include "dasha/pages/frmVimsot.h"
+#include "muhurtha/pages/frmHoroReckoner.h"
 #include "muhurtha/pages/frmSadeSati.h"
 #include "output/ui/TopicPage.h"
 #include "sky/pages/frmPage1.h"
@@ -23,6 +24,7 @@ template <int Part> TopicPage *bhinna(QWidget *parent) { return new frmBhinnaAsh
 
 void RegisterTopicPages()
 {
+    page<frmHoroReckoner>("frmHoroReckoner");
     page<frmPage1>("frmPage1");
     page<frmPage2>("frmPage2");
     page<frmSodash>("frmSodash");
