@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "app/TopicPages.h"
 
+#include "cli/MatchCommand.h"
 #include "dasha/pages/frmVimsot.h"
+#include "marriage/pages/frmMarCover.h"
+#include "marriage/pages/frmMarFront.h"
+#include "marriage/pages/frmMarScore.h"
+#include "marriage/pages/frmMarText.h"
+#include "output/PrintTree.h"
+#include "output/ui/PdfCommand.h"
 #include "output/ui/TopicPage.h"
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
@@ -34,4 +41,13 @@ void RegisterTopicPages()
     page<frmPratyan>("frmPratyan");
     page<frmPrediYogas>("frmPrediYogas");
     page<frmForText>("frmForText");
+    page<frmMarFront>("frmMarFront");
+    page<frmMarCover>("frmMarCover");
+    page<frmMarScore>("frmMarScore");
+    page<frmMarText>("frmMarText");
+    // The marriage report of the command line is drawn by these pages.
+    SetMatchPdfWriter([](const QString &file, QTextStream &out, QTextStream &err) {
+        const QStringList keys = PrintKeys(2, false);
+        return WriteSessionPdf(2, QSet<QString>(keys.begin(), keys.end()), file, out, err);
+    });
 }
