@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "FuzzBodies.h"
 
+#include "marriage/ScoreFiles.h"
 #include "session/AtlasLookup.h"
 #include "session/Languages.h"
 #include "sky/MessageSink.h"
@@ -77,6 +78,16 @@ private:
 };
 
 } // namespace
+
+void ReadScoreFiles()
+{
+    for (int n = 0; n <= 15; ++n)
+        for (int m = 0; m <= 15; ++m) {
+            (void)ScoreFiles::GrahaPoints(n, m);
+            (void)ScoreFiles::RasiPoints(n, m);
+            (void)ScoreFiles::YoniPoints(n, m);
+        }
+}
 
 #define ORBANTA_FUZZ_TARGET(name, function) {#name, function},
 #define ORBANTA_FUZZ_DATA_FILE(name, path, ...)                                                                        \

@@ -41,3 +41,5 @@ void FuzzCommandLine(const std::uint8_t *data, std::size_t size);
 void ReadLanguageDatabase(const QString &langDir);
 // Loads the atlas of a records database and resolves a few places in it.
 void ReadAtlas(const QString &datFile);
+// Looks up every entry of the three score files of the match, and a few beyond them.
+void ReadScoreFiles();

@@ -61,4 +61,13 @@ db "$corpus/atlas/RECOS.Dat" <(sed -n '/^CREATE TABLE City/,/^CREATE INDEX Count
   "INSERT INTO City VALUES ('Delhi','02838','07712','N','E','India','+05.30','Asia/Kolkata'),('Delhi','04217','07455','N','W','United States','-05.00','America/New_York'),('São Paulo','02332','04637','S','W','Brazil','-03.00','America/Sao_Paulo'),('Dehra Dun','03019','07803','N','E','India','+05.30','Asia/Kolkata'),('','','','','','','','');" \
   "INSERT INTO Country VALUES ('India','+05.30','Asia/Kolkata'),('United States','-05.00','America/New_York'),('Brazil','-03.00','America/Sao_Paulo');"
 
+# --- score files of the match: the built files (run after a build), and two broken ones.
+for t in graha:SCGRAHA rasi:SCRASI yoni:SCYONI; do
+  rm -rf "${corpus:?}/score_${t%%:*}"
+  mkdir -p "$corpus/score_${t%%:*}"
+  cp "$here/build/STUFF/COMMON/${t#*:}.DAT" "$corpus/score_${t%%:*}/"
+done
+printf '[H1]P1-99999999999999999999999|P2--|P3|[/H1][H2]P' >"$corpus/score_graha/broken.DAT"
+printf '[HEAD1]S1-1e308|S2-nan|[/HEAD1' >"$corpus/score_yoni/broken.DAT"
+
 ls -l "$corpus"/*

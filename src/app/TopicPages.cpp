@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "app/TopicPages.h"
 
+#include "cli/MatchCommand.h"
 #include "dasha/pages/frmVimsot.h"
 #include "muhurtha/pages/frmHoroReckoner.h"
 #include "muhurtha/pages/frmSadeSati.h"
+#include "marriage/pages/frmMarCover.h"
+#include "marriage/pages/frmMarFront.h"
+#include "marriage/pages/frmMarScore.h"
+#include "marriage/pages/frmMarText.h"
+#include "output/PrintTree.h"
+#include "output/ui/PdfCommand.h"
 #include "output/ui/TopicPage.h"
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
@@ -38,4 +45,13 @@ void RegisterTopicPages()
     page<frmPrediYogas>("frmPrediYogas");
     page<frmForText>("frmForText");
     page<frmSadeSati>("frmSadeSati");
+    page<frmMarFront>("frmMarFront");
+    page<frmMarCover>("frmMarCover");
+    page<frmMarScore>("frmMarScore");
+    page<frmMarText>("frmMarText");
+    // The marriage report of the command line is drawn by these pages.
+    SetMatchPdfWriter([](const QString &file, QTextStream &out, QTextStream &err) {
+        const QStringList keys = PrintKeys(2, false);
+        return WriteSessionPdf(2, QSet<QString>(keys.begin(), keys.end()), file, out, err);
+    });
 }

@@ -3,6 +3,7 @@
 #include "app/mdiMother.h"
 #include "cli/ChartCommand.h"
 #include "cli/CommandLine.h"
+#include "cli/MatchCommand.h"
 #include "output/ui/PdfCommand.h"
 #include "session/ui/MessageBoxSink.h"
 #include "session/ui/frmSplash.h"
@@ -20,6 +21,7 @@ namespace {
 constexpr std::array kVerbs{
     CliVerb{"chart", "Cast a chart and print it as a table or as JSON.", false, RunChartCommand},
     CliVerb{"pdf", "Write chosen topics of the horoscope to a PDF file.", true, RunPdfCommand},
+    CliVerb{"match", "Match a couple: Guna milan, Manglik and the further checks, as a table, JSON or PDF.", true, RunMatchCommand},
 };
 
 void nameApplication()

@@ -173,6 +173,7 @@ void mdiMother::buildMenus()
     m_outputActions[2]->setObjectName(QStringLiteral("mnuExportPDF"));
     for (QAction *a : m_outputActions)
         a->setEnabled(false);
+
     file->addSeparator();
     file->addAction(QStringLiteral("E&xit"), this, &QWidget::close);
 
@@ -265,9 +266,11 @@ void mdiMother::buildMenus()
     m_tools->addSeparator();
     tbTransits = tool("Transits", "Transits", QStyle::SP_BrowserReload);
     connect(tbTransits, &QAction::triggered, this, &mdiMother::ShowVisualTransits);
+    // The moving sky waits for a Horoscope session (see BuildTopicList).
+    tbTransits->setEnabled(false);
+    mnuViewTransits->setEnabled(false);
     // Output and stepping act on topics: they wait until a session has some.
-    m_outputActions << printTopic << print << pdf << tbPrevious << tbNext << mnuNavPrev << mnuNavNext << tbTransits
-                    << mnuViewTransits;
+    m_outputActions << printTopic << print << pdf << tbPrevious << tbNext << mnuNavPrev << mnuNavNext;
     for (QAction *a : m_outputActions)
         a->setEnabled(false);
     m_tools->addSeparator();

@@ -91,7 +91,7 @@ QString offsetText(const QRegularExpressionMatch &m)
         + QLatin1Char('.') + m.captured(3);
 }
 
-void typedPlaceFields(const QCommandLineParser &p, Birth &b);
+void typedPlaceFields(const QCommandLineParser &p, Birth &b, const QString &prefix);
 Birth checked(const Birth &b);
 
 // The place from the atlas: coordinates, and the zone's standard offset and any summer or war
@@ -139,24 +139,26 @@ void placeFields(const QString &text, Birth &b)
 }
 
 // Brings "d/m/yyyy", "h.mm", "dd:mmN" forms to the masks, or reports the field's own message.
-Birth readBirth(const QCommandLineParser &p, const QString &usage)
+// prefix names the options of a second person ("girl-": --girl-date ...).
+Birth readBirth(const QCommandLineParser &p, const QString &usage, const QString &prefix = QString())
 {
-    const bool byPlace = p.isSet(QStringLiteral("place"));
-    if (byPlace && (p.isSet(QStringLiteral("lat")) || p.isSet(QStringLiteral("lon")) || p.isSet(QStringLiteral("gmt"))))
-        throw InputError{QStringLiteral("--place stands in place of --lat, --lon and --gmt: give one or the other.")};
-    QStringList required{QStringLiteral("date"), QStringLiteral("time")};
+    const auto opt = [&prefix](const char *name) { return prefix + QString::fromLatin1(name); };
+    const bool byPlace = p.isSet(opt("place"));
+    if (byPlace && (p.isSet(opt("lat")) || p.isSet(opt("lon")) || p.isSet(opt("gmt"))))
+        throw InputError{QStringLiteral("--%1place stands in place of --%1lat, --%1lon and --%1gmt: give one or the other.").arg(prefix)};
+    QStringList required{opt("date"), opt("time")};
     if (!byPlace)
-        required << QStringLiteral("lat") << QStringLiteral("lon") << QStringLiteral("gmt");
+        required << opt("lat") << opt("lon") << opt("gmt");
     QStringList missing;
-    for (const QString &opt : required)
-        if (!p.isSet(opt))
-            missing << QStringLiteral("--") + opt;
+    for (const QString &o : required)
+        if (!p.isSet(o))
+            missing << QStringLiteral("--") + o;
     if (!missing.isEmpty())
         throw InputError{QStringLiteral("Missing ") + missing.join(QStringLiteral(", ")) + QStringLiteral(".\n") + usage};
 
     Birth b;
-    b.name = p.value(QStringLiteral("name")).trimmed();
-    if (p.isSet(QStringLiteral("sex"))) {
+    b.name = p.value(opt("name")).trimmed();
+    if (prefix.isEmpty() && p.optionNames().contains(QStringLiteral("sex"))) {
         const QString s = p.value(QStringLiteral("sex")).toUpper();
         if (s != QLatin1String("M") && s != QLatin1String("F"))
             throw InputError{QStringLiteral("--sex takes M or F.")};
@@ -164,24 +166,24 @@ Birth readBirth(const QCommandLineParser &p, const QString &usage)
     }
 
     static const QRegularExpression dateRe(QStringLiteral("^(\\d{1,2})/(\\d{1,2})/(\\d{4})$"));
-    const auto dm = dateRe.match(p.value(QStringLiteral("date")).trimmed());
+    const auto dm = dateRe.match(p.value(opt("date")).trimmed());
     if (!dm.hasMatch())
         throw entryError(5, QStringLiteral("Invalid Date"));
     b.fields.date = Two(dm.captured(1).toLong()) + QLatin1Char('/') + Two(dm.captured(2).toLong()) + QLatin1Char('/') + dm.captured(3);
 
     static const QRegularExpression timeRe(QStringLiteral("^(\\d{1,2})[.:](\\d{2})$"));
-    const auto tm = timeRe.match(p.value(QStringLiteral("time")).trimmed());
+    const auto tm = timeRe.match(p.value(opt("time")).trimmed());
     if (!tm.hasMatch())
         throw entryError(6, QStringLiteral("Invalid Time"));
     b.fields.time = Two(tm.captured(1).toLong()) + QLatin1Char('.') + tm.captured(2);
 
     if (byPlace)
-        placeFields(p.value(QStringLiteral("place")), b);
+        placeFields(p.value(opt("place")), b);
     else
-        typedPlaceFields(p, b);
+        typedPlaceFields(p, b, prefix);
 
-    if (p.isSet(QStringLiteral("tcorr"))) {
-        const auto tc = offsetPattern().match(p.value(QStringLiteral("tcorr")).trimmed());
+    if (p.isSet(opt("tcorr"))) {
+        const auto tc = offsetPattern().match(p.value(opt("tcorr")).trimmed());
         if (!tc.hasMatch())
             throw InputError{QStringLiteral("The time correction must be written as {+|-}HH.MM, for example -01.00.")};
         b.tcorr = offsetText(tc);
@@ -191,23 +193,24 @@ Birth readBirth(const QCommandLineParser &p, const QString &usage)
 }
 
 // The place from the typed latitude, longitude and zone offset.
-void typedPlaceFields(const QCommandLineParser &p, Birth &b)
+void typedPlaceFields(const QCommandLineParser &p, Birth &b, const QString &prefix)
 {
+    const auto opt = [&prefix](const char *name) { return prefix + QString::fromLatin1(name); };
     static const QRegularExpression latRe(QStringLiteral("^(\\d{1,3}):(\\d{2})\\s*([NSns])$"));
-    const auto la = latRe.match(p.value(QStringLiteral("lat")).trimmed());
+    const auto la = latRe.match(p.value(opt("lat")).trimmed());
     if (!la.hasMatch())
         throw entryError(10, QStringLiteral("Invalid Lattitude"));
     b.fields.latitude = QStringLiteral("%1:%2").arg(la.captured(1).toLong(), 3, 10, QLatin1Char('0')).arg(la.captured(2));
     b.ns = la.captured(3).toUpper();
 
     static const QRegularExpression lonRe(QStringLiteral("^(\\d{1,3}):(\\d{2})\\s*([EWew])$"));
-    const auto lo = lonRe.match(p.value(QStringLiteral("lon")).trimmed());
+    const auto lo = lonRe.match(p.value(opt("lon")).trimmed());
     if (!lo.hasMatch())
         throw entryError(11, QStringLiteral("Invalid Longitude"));
     b.fields.longitude = QStringLiteral("%1:%2").arg(lo.captured(1).toLong(), 3, 10, QLatin1Char('0')).arg(lo.captured(2));
     b.ew = lo.captured(3).toUpper();
 
-    const auto gm = offsetPattern().match(p.value(QStringLiteral("gmt")).trimmed());
+    const auto gm = offsetPattern().match(p.value(opt("gmt")).trimmed());
     if (!gm.hasMatch())
         throw entryError(9, QStringLiteral("Orbanta"));
     b.fields.gmt = offsetText(gm);
@@ -267,59 +270,73 @@ void applyOverrides(const QCommandLineParser &p)
         AppSettings::overrideForRun(QStringLiteral("Init"), QStringLiteral("Vakya"), true);
 }
 
-} // namespace
-
-int RunWithChart(const QStringList &args, QTextStream &out, QTextStream &err, const QList<QCommandLineOption> &extra,
-                 const QString &usage, const ChartAction &action)
+// The options of one person's birth; prefix names a second person's ("girl-").
+QList<QCommandLineOption> personOptions(const QString &prefix, const QString &whose)
 {
-    QCommandLineParser p;
-    p.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    p.addOptions({
-        {QStringLiteral("date"), QStringLiteral("Date of birth."), QStringLiteral("DD/MM/YYYY")},
-        {QStringLiteral("time"), QStringLiteral("Clock time of birth, 24-hour."), QStringLiteral("HH.MM")},
-        {QStringLiteral("lat"), QStringLiteral("Latitude."), QStringLiteral("DDD:MM{N|S}")},
-        {QStringLiteral("lon"), QStringLiteral("Longitude."), QStringLiteral("DDD:MM{E|W}")},
-        {QStringLiteral("gmt"), QStringLiteral("Zone offset from GMT."), QStringLiteral("{+|-}HH.MM")},
-        {QStringLiteral("place"), QStringLiteral("A place of the atlas, instead of --lat, --lon and --gmt."), QStringLiteral("NAME[,COUNTRY]")},
-        {QStringLiteral("name"), QStringLiteral("Name."), QStringLiteral("TEXT")},
-        {QStringLiteral("sex"), QStringLiteral("M or F."), QStringLiteral("M|F")},
-        {QStringLiteral("tcorr"), QStringLiteral("Time correction, e.g. -01.00."), QStringLiteral("{+|-}HH.MM")},
+    const auto o = [&](const char *name, const QString &what, const char *value) {
+        return QCommandLineOption(prefix + QString::fromLatin1(name), whose + what, QString::fromLatin1(value));
+    };
+    return {
+        o("date", QStringLiteral("Date of birth."), "DD/MM/YYYY"),
+        o("time", QStringLiteral("Clock time of birth, 24-hour."), "HH.MM"),
+        o("lat", QStringLiteral("Latitude."), "DDD:MM{N|S}"),
+        o("lon", QStringLiteral("Longitude."), "DDD:MM{E|W}"),
+        o("gmt", QStringLiteral("Zone offset from GMT."), "{+|-}HH.MM"),
+        o("place", QStringLiteral("A place of the atlas, instead of --lat, --lon and --gmt."), "NAME[,COUNTRY]"),
+        o("name", QStringLiteral("Name."), "TEXT"),
+        o("tcorr", QStringLiteral("Time correction, e.g. -01.00."), "{+|-}HH.MM"),
+    };
+}
+
+// The options that apply to the whole run.
+QList<QCommandLineOption> runOptions()
+{
+    return {
         {QStringLiteral("ayanamsa"), QStringLiteral("Ayanamsa choice 1..15."), QStringLiteral("N")},
         {QStringLiteral("node"), QStringLiteral("Rahu and Ketu: mean or true."), QStringLiteral("mean|true")},
         {QStringLiteral("vakya"), QStringLiteral("Cast by the traditional Vakya method.")},
         {QStringLiteral("help"), QStringLiteral("Show this help.")},
-    });
-    p.addOptions(extra);
+    };
+}
+
+// A cast chart of the birth on the text database.
+std::unique_ptr<clsPlanets> cast(const Birth &birth, QSqlDatabase &textDb)
+{
+    auto chart = std::make_unique<clsPlanets>();
+    chart->setTextDB(textDb, QSqlDatabase());
+    fillPerson(birth, chart->Person());
+    chart->Calculate();
+    return chart;
+}
+
+// Parses args; 0 to go on, else the status to end with (help given, or bad options).
+int parse(QCommandLineParser &p, const QStringList &args, QTextStream &out, QTextStream &err, const QString &usage)
+{
+    p.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     if (!p.parse(QStringList{QStringLiteral("orbanta")} + args)) {
         err << p.errorText() << '\n' << usage;
         return 2;
     }
     if (p.isSet(QStringLiteral("help"))) {
         out << usage;
-        return 0;
+        return -1;
     }
     if (!p.positionalArguments().isEmpty()) {
         err << "Unexpected argument: " << p.positionalArguments().first() << '\n' << usage;
         return 2;
     }
+    return 0;
+}
+
+// Runs body with the run's overrides and a sink on standard error; input and setup faults
+// become statuses 2 and 1 with their message.
+int guarded(QTextStream &err, const std::function<int(StreamSink &)> &body)
+{
     int status = 0;
     try {
-        const Birth birth = readBirth(p, usage);
-        applyOverrides(p);
-        if (AppSettings::Vakya())
-            if (const auto m = CheckVakyaLatitude(birth.fields.latitude))
-                throw InputError{messageLine(*m)};
         StreamSink sink(err);
         ScopedMessageSink scopedSink(&sink);
-        QSqlDatabase textDb = openEnglish();
-        {
-            auto chart = std::make_unique<clsPlanets>();
-            chart->setTextDB(textDb, QSqlDatabase());
-            fillPerson(birth, chart->Person());
-            chart->Calculate();
-            status = action(p, chart, textDb);
-        }
-        CloseTextDB(textDb);
+        status = body(sink);
     } catch (const InputError &e) {
         AppSettings::clearOverrides();
         err << e.text << '\n';
@@ -333,3 +350,73 @@ int RunWithChart(const QStringList &args, QTextStream &out, QTextStream &err, co
     return status;
 }
 
+// The birth of one partner; its faults name whose field it is.
+Birth partnerBirth(const QCommandLineParser &p, const QString &usage, const QString &prefix, const QString &whose)
+{
+    try {
+        const Birth b = readBirth(p, usage, prefix);
+        if (AppSettings::Vakya())
+            if (const auto m = CheckVakyaLatitude(b.fields.latitude))
+                throw InputError{messageLine(*m)};
+        return b;
+    } catch (const InputError &e) {
+        throw InputError{whose + QStringLiteral(": ") + e.text};
+    }
+}
+
+} // namespace
+
+int RunWithChart(const QStringList &args, QTextStream &out, QTextStream &err, const QList<QCommandLineOption> &extra,
+                 const QString &usage, const ChartAction &action)
+{
+    QCommandLineParser p;
+    p.addOptions(personOptions(QString(), QString()));
+    p.addOption({QStringLiteral("sex"), QStringLiteral("M or F."), QStringLiteral("M|F")});
+    p.addOptions(runOptions());
+    p.addOptions(extra);
+    if (const int s = parse(p, args, out, err, usage))
+        return s < 0 ? 0 : s;
+    return guarded(err, [&](StreamSink &) {
+        const Birth birth = readBirth(p, usage);
+        applyOverrides(p);
+        if (AppSettings::Vakya())
+            if (const auto m = CheckVakyaLatitude(birth.fields.latitude))
+                throw InputError{messageLine(*m)};
+        QSqlDatabase textDb = openEnglish();
+        int status = 0;
+        {
+            std::unique_ptr<clsPlanets> chart = cast(birth, textDb);
+            status = action(p, chart, textDb);
+        }
+        CloseTextDB(textDb);
+        return status;
+    });
+}
+
+int RunWithCouple(const QStringList &args, QTextStream &out, QTextStream &err, const QList<QCommandLineOption> &extra,
+                  const QString &usage, const CoupleAction &action)
+{
+    QCommandLineParser p;
+    p.addOptions(personOptions(QString(), QStringLiteral("The boy's: ")));
+    p.addOptions(personOptions(QStringLiteral("girl-"), QStringLiteral("The girl's: ")));
+    p.addOptions(runOptions());
+    p.addOptions(extra);
+    if (const int s = parse(p, args, out, err, usage))
+        return s < 0 ? 0 : s;
+    return guarded(err, [&](StreamSink &) {
+        applyOverrides(p);
+        Birth boy = partnerBirth(p, usage, QString(), QStringLiteral("Boy"));
+        Birth girl = partnerBirth(p, usage, QStringLiteral("girl-"), QStringLiteral("Girl"));
+        boy.sex = 1;
+        girl.sex = 2;
+        QSqlDatabase textDb = openEnglish();
+        int status = 0;
+        {
+            std::unique_ptr<clsPlanets> boyChart = cast(boy, textDb);
+            std::unique_ptr<clsPlanets> girlChart = cast(girl, textDb);
+            status = action(p, boyChart, girlChart, textDb);
+        }
+        CloseTextDB(textDb);
+        return status;
+    });
+}

@@ -22,3 +22,11 @@ using ChartAction = std::function<int(const QCommandLineParser &, std::unique_pt
 // usage and gives 0, bad input gives status 2 with the program's message, a missing data file 1.
 int RunWithChart(const QStringList &args, QTextStream &out, QTextStream &err, const QList<QCommandLineOption> &extra,
                  const QString &usage, const ChartAction &action);
+
+// The same for a couple: the boy's birth in the options above (without --sex), the girl's in the
+// same options prefixed "girl-" (--girl-date, --girl-place ...). A fault of either birth gives
+// status 2 with the entry screen's message after "Boy: " or "Girl: ".
+using CoupleAction = std::function<int(const QCommandLineParser &, std::unique_ptr<clsPlanets> &boy,
+                                       std::unique_ptr<clsPlanets> &girl, QSqlDatabase &)>;
+int RunWithCouple(const QStringList &args, QTextStream &out, QTextStream &err, const QList<QCommandLineOption> &extra,
+                  const QString &usage, const CoupleAction &action);

@@ -58,18 +58,22 @@ void writeTable(const clsPlanets &chart, QTextStream &out)
 
 } // namespace
 
+QJsonObject PersonJson(const clsPerson &person)
+{
+    return QJsonObject{
+        {QStringLiteral("name"), person.Name()},
+        {QStringLiteral("day"), static_cast<qint64>(person.Day())},
+        {QStringLiteral("month"), static_cast<qint64>(person.Month())},
+        {QStringLiteral("year"), static_cast<qint64>(person.Year())},
+        {QStringLiteral("hour"), static_cast<qint64>(person.Hour())},
+        {QStringLiteral("minutes"), static_cast<qint64>(person.Minutes())},
+    };
+}
+
 QJsonObject ChartCastJson(const clsPlanets &chart)
 {
-    const clsPerson &person = chart.Person();
     QJsonObject o;
-    o.insert(QStringLiteral("person"), QJsonObject{
-                                           {QStringLiteral("name"), person.Name()},
-                                           {QStringLiteral("day"), static_cast<qint64>(person.Day())},
-                                           {QStringLiteral("month"), static_cast<qint64>(person.Month())},
-                                           {QStringLiteral("year"), static_cast<qint64>(person.Year())},
-                                           {QStringLiteral("hour"), static_cast<qint64>(person.Hour())},
-                                           {QStringLiteral("minutes"), static_cast<qint64>(person.Minutes())},
-                                       });
+    o.insert(QStringLiteral("person"), PersonJson(chart.Person()));
     o.insert(QStringLiteral("ayanamsa_type"), chart.AyanType());
     o.insert(QStringLiteral("ayanamsa"), chart.PlanetLongi(13));
     o.insert(QStringLiteral("kp_ayanamsa"), chart.KPAyanVal());

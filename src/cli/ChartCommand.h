@@ -15,6 +15,8 @@ QJsonObject ChartJson(const clsPlanets &chart);
 // The members read from the cast itself: person, positions, houses, panchang, divisions,
 // Vimshottari, Ashtakavarga, yogas.
 QJsonObject ChartCastJson(const clsPlanets &chart);
+// The "person" member of ChartCastJson: name, day, month, year, hour, minutes.
+QJsonObject PersonJson(const clsPerson &person);
 // The members that cast the chart again at other moments of the day and year, some ten times
 // the cost of the rest: sunrise, sunset, Shadbala and Sade Sati.
 QJsonObject ChartDayJson(const clsPlanets &chart);

@@ -10,6 +10,8 @@
 
 #include <memory>
 
+class clsMarr;
+
 // Font sizes and weights of the chosen language (one row of table Language).
 struct LanguageStyle
 {
@@ -34,8 +36,11 @@ struct SessionGlobals
     // The chosen language's text database.
     QSqlDatabase TextDB;
     LanguageStyle Language;
+    // The match of BoyPlanets and GalPlanets, made on first use (marriage/MarrSession.h) and
+    // dropped with the charts.
+    std::shared_ptr<clsMarr> Marr;
 
-    // Releases the four charts.
+    // Releases the four charts and the match made from them.
     void ReleaseCharts();
 };
 

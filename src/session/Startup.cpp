@@ -21,7 +21,8 @@ bool DecimalPointIsDot()
 QStringList RequiredFiles()
 {
     // Further files join this list as the readings that need them are built.
-    return {QStringLiteral("COMMON/RECOS.Dat"), QStringLiteral("COMMON/LANGS.Dat"), QStringLiteral("COMMON/ExpTemp.JKP")};
+    return {QStringLiteral("COMMON/RECOS.Dat"),   QStringLiteral("COMMON/LANGS.Dat"),  QStringLiteral("COMMON/ExpTemp.JKP"),
+            QStringLiteral("COMMON/SCGRAHA.DAT"), QStringLiteral("COMMON/SCRASI.DAT"), QStringLiteral("COMMON/SCYONI.DAT")};
 }
 
 QString FirstMissingFile()

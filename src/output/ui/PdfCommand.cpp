@@ -17,6 +17,28 @@ const QString kPdfUsage = QStringLiteral(
     "Topics are the keys of the print tree; all topics by default. Keys: %1\n");
 } // namespace
 
+int WriteSessionPdf(int progMode, const QSet<QString> &ticked, const QString &file, QTextStream &out, QTextStream &err)
+{
+    clsPDFExporter pdf;
+    pdf.filename = file;
+    if (!pdf.StartExport()) {
+        err << "Cannot write " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
+        return 1;
+    }
+    Output().PrintAbort = false;
+    Output().PageCounter = 1;
+    PageCache pages;
+    PageOutput output(nullptr, nullptr, &pdf);
+    const int drawn = WalkSteps(SelectedSteps(progMode, false, ticked), pages, output);
+    pages.UnloadPages();
+    if (!pdf.FinishFile()) {
+        err << "Cannot complete " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
+        return 1;
+    }
+    out << "Wrote " << drawn << " topics, " << pdf.surface().PageCount() << " pages to " << file << '\n';
+    return 0;
+}
+
 int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     const QStringList keys = PrintKeys(1, false);
@@ -46,27 +68,7 @@ int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err)
         s.ProgMode = 1;
         s.TextDB = db;
         s.CurPlanets = std::move(chart);
-        clsPDFExporter pdf;
-        pdf.filename = file;
-        int status = 0;
-        if (!pdf.StartExport()) {
-            err << "Cannot write " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
-            status = 1;
-        } else {
-            Output().PrintAbort = false;
-            Output().PageCounter = 1;
-            PageCache pages;
-            PageOutput output(nullptr, nullptr, &pdf);
-            const QList<PrintStep> steps = SelectedSteps(1, false, ticked);
-            const int drawn = WalkSteps(steps, pages, output);
-            pages.UnloadPages();
-            if (!pdf.FinishFile()) {
-                err << "Cannot complete " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
-                status = 1;
-            } else {
-                out << "Wrote " << drawn << " topics, " << pdf.surface().PageCount() << " pages to " << file << '\n';
-            }
-        }
+        const int status = WriteSessionPdf(1, ticked, file, out, err);
         s.ReleaseCharts();
         s.TextDB = QSqlDatabase();
         return status;

@@ -2,6 +2,7 @@
 #include "output/ui/TopicPage.h"
 
 #include "chartdraw/ui/Kundali.h"
+#include "output/ui/PageOutput.h"
 #include "output/ui/PageParts.h"
 #include "output/ui/PageStyle.h"
 #include "session/Session.h"
@@ -60,11 +61,18 @@ TopicPage::TopicPage(const QString &name, QWidget *parent, bool framed) : QWidge
     addLine(QPointF(kMargin, kFootY), QPointF(kWidth - kMargin, kFootY));
 }
 
-const clsPlanets &TopicPage::chart() const { return *Session().CurPlanets; }
+const clsPlanets &TopicPage::chart() const
+{
+    // The pages of a couple read their words through the boy's chart.
+    const SessionGlobals &s = Session();
+    return s.ProgMode == 2 && s.BoyPlanets ? *s.BoyPlanets : *s.CurPlanets;
+}
 
 void TopicPage::Load()
 {
-    if (m_loaded || !Session().CurPlanets)
+    const SessionGlobals &s = Session();
+    const bool couple = s.ProgMode == 2 && s.BoyPlanets && s.GalPlanets;
+    if (m_loaded || (!couple && !s.CurPlanets))
         return;
     m_loaded = true;
     if (!m_framed) {
@@ -72,7 +80,7 @@ void TopicPage::Load()
         return;
     }
     // The person's name at the foot, in the colour of names.
-    QLabel *name = addLabel(QRect(kMargin, kFootY + 4, 500, 22), chart().Person().Name(), SmallBold);
+    QLabel *name = addLabel(QRect(kMargin, kFootY + 4, 500, 22), couple ? HeaderName(QStringLiteral(" & ")) : chart().Person().Name(), SmallBold);
     name->setObjectName(QStringLiteral("lblPerName"));
     QPalette p = name->palette();
     p.setColor(QPalette::WindowText, PageColors::Current().PerNameCol);

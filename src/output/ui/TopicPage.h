@@ -25,7 +25,8 @@ public:
     // Label styles, after the style operations of the pages.
     enum Style { Heading, Body, SubHead, English, EnglishSmall, Small, SmallBold };
 
-    // name: the page's name ("frmPage1"); the page of the session's chart. A framed page has a
+    // name: the page's name ("frmPage1"); the page of the session's chart, or of its two charts
+    // in Marriage mode. A framed page has a
     // title, rules and a foot with the name and page number; a text page has none of them shown.
     explicit TopicPage(const QString &name, QWidget *parent = nullptr, bool framed = true);
 
@@ -42,7 +43,7 @@ public:
 protected:
     // What the page shows; runs once from Load.
     virtual void fill() = 0;
-    // The chart of the page.
+    // The chart of the page; in Marriage mode the boy's, through which the words are read.
     const clsPlanets &chart() const;
 
     QLabel *addLabel(const QRect &r, const QString &text, Style style, Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter);
