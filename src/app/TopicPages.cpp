@@ -10,6 +10,13 @@
 #include "strength/pages/frmBhav.h"
 #include "strength/pages/frmShadbala.h"
 #include "text/pages/frmForText.h"
+#include "varsha/pages/VarshaTextPages.h"
+#include "varsha/pages/frmVarBalas.h"
+#include "varsha/pages/frmVarChart2.h"
+#include "varsha/pages/frmVarFront.h"
+#include "varsha/pages/frmVarSaham.h"
+#include "varsha/pages/frmVarTripat.h"
+#include "varsha/pages/frmVarshaDasha.h"
 #include "yoga/pages/frmPrediYogas.h"
 
 namespace {
@@ -34,4 +41,13 @@ void RegisterTopicPages()
     page<frmPratyan>("frmPratyan");
     page<frmPrediYogas>("frmPrediYogas");
     page<frmForText>("frmForText");
+    page<frmVarFront>("frmVarFront");
+    page<frmVarshaDasha>("frmVarshaDasha");
+    page<frmVarBalas>("frmVarBalas");
+    page<frmVarChart2>("frmVarChart2");
+    page<frmVarTripat>("frmVarTripat");
+    page<frmVarSaham>("frmVarSaham");
+    page<frmVarshaText>("frmVarshaText");
+    page<frmVarChartTxt>("frmVarChartTxt");
+    page<frmVarPlHText>("frmVarPlHText");
 }

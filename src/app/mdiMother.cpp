@@ -16,6 +16,7 @@
 #include "session/ui/frmLogin.h"
 #include "session/ui/frmWizard.h"
 #include "sky/Functions.h"
+#include "varsha/AnnualReading.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -273,10 +274,7 @@ void mdiMother::buildMenus()
     m_yearBar->addWidget(m_years);
     m_yearBar->setVisible(false);
     // The list holds the birth year and the 99 after it: the index is the age of the year.
-    connect(m_years, &QComboBox::currentIndexChanged, this, [](int i) {
-        if (i >= 0)
-            Session().VarshaYear = i;
-    });
+    connect(m_years, &QComboBox::currentIndexChanged, this, &mdiMother::ChooseYear);
 }
 
 void mdiMother::buildNavigateMenus()
@@ -528,7 +526,10 @@ void mdiMother::StartSession()
         const int birthYear = static_cast<int>(Val(m_login->single->txtDate->text().right(4)));
         FillYearList(birthYear);
         const int item = QDate::currentDate().year() - birthYear - 1;
+        const QSignalBlocker block(m_years);
         m_years->setCurrentIndex(item >= 0 && item <= 99 ? item : 0);
+        Session().VarshaYear = m_years->currentIndex();
+        makeYear();
     }
     m_stack->setCurrentWidget(m_sessionPage);
     BuildTopicList(s.ProgMode);
@@ -550,9 +551,28 @@ void mdiMother::StartSession()
     SelectTopic(0);
 }
 
+void mdiMother::makeYear()
+{
+    const QString error = MakeVarsha();
+    if (!error.isEmpty())
+        QMessageBox::warning(this, QStringLiteral("Varshaphala"), error);
+}
+
+void mdiMother::ChooseYear(int index)
+{
+    if (index < 0 || Session().ProgMode != 4 || !Session().CurPlanets)
+        return;
+    // The annual pages of the old year go; the new year opens on its front page.
+    UnloadPages();
+    Session().VarshaYear = index;
+    makeYear();
+    SelectTopic(0);
+}
+
 void mdiMother::ShowEntryScreen()
 {
     UnloadPages();
+    ReleaseVarsha();
     Session().ReleaseCharts();
     m_tools->setVisible(false);
     m_yearBar->setVisible(false);
@@ -573,6 +593,7 @@ void mdiMother::closeEvent(QCloseEvent *event)
         return;
     }
     UnloadPages();
+    ReleaseVarsha();
     Session().ReleaseCharts();
     event->accept();
 }

@@ -75,9 +75,11 @@ inline constexpr std::array<Row, 2> kMuhurtha{{
 }};
 
 // The pages that exist so far.
-inline constexpr std::array<const char *, 12> kBuiltPages{{"frmPage1", "frmPage2", "frmSodash", "frmBhav", "frmBhinnaAshtak",
+inline constexpr std::array<const char *, 21> kBuiltPages{{"frmPage1", "frmPage2", "frmSodash", "frmBhav", "frmBhinnaAshtak",
                                                            "frmBhinnaAshtak2", "frmAshtak", "frmShadbala", "frmVimsot", "frmPratyan",
-                                                           "frmPrediYogas", "frmForText"}};
+                                                           "frmPrediYogas", "frmForText", "frmVarFront", "frmVarshaDasha", "frmVarBalas",
+                                                           "frmVarChart2", "frmVarTripat", "frmVarSaham", "frmVarshaText", "frmVarChartTxt",
+                                                           "frmVarPlHText"}};
 
 template <size_t N> QList<TopicEntry> build(const std::array<Row, N> &rows, size_t count, bool builtOnly)
 {
