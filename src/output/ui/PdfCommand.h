@@ -8,3 +8,6 @@
 
 // Needs a QApplication (the offscreen platform serves). Returns the exit status.
 int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err);
+// The annual pages of the session's reading, all nine, written to file. Needs a QApplication.
+// Returns the exit status.
+int WriteVarshaPdf(const QString &file, QTextStream &out, QTextStream &err);
