@@ -3,7 +3,12 @@
 // its front page, the nine pages fill from the reading, and another year from the list recasts
 // the reading and starts again at the front page.
 #include "chartdraw/ui/Kundali.h"
+#include "output/PrintTree.h"
+#include "output/ui/PageCache.h"
+#include "output/ui/PageOutput.h"
+#include "output/ui/PrintRun.h"
 #include "output/ui/TextPage.h"
+#include "session/ui/frmCalcOptions.h"
 #include "output/ui/TopicPage.h"
 #include "session_ui/SessionWindow.h"
 #include "support/RecordingSink.h"
@@ -11,6 +16,10 @@
 #include "varsha/clsVarsha.h"
 
 #include <QApplication>
+
+#include <cmath>
+#include <QFileInfo>
+#include <QTemporaryDir>
 #include <QDir>
 #include <QTest>
 #include <QTextEdit>
@@ -116,6 +125,53 @@ TEST_F(AnnualPages, AnotherYearFromTheListRecastsAndReturnsToTheFrontPage)
     window->ShowEntryScreen();
     EXPECT_EQ(SessionVarsha(), nullptr);
     EXPECT_FALSE(Session().VarshaPlanets);
+}
+
+TEST_F(AnnualPages, TheExactReturnIsASettingOfTheRegionalSettings)
+{
+    generate();
+    const clsVarsha *traditional = SessionVarsha();
+    ASSERT_NE(traditional, nullptr);
+    const double natal = Session().CurPlanets->PlanetLongi(1);
+    {
+        frmCalcOptions options;
+        EXPECT_FALSE(options.chkExactReturn->isChecked()); // off unless chosen
+        QTest::mouseClick(options.chkExactReturn, Qt::LeftButton);
+        QTest::mouseClick(options.cmdOK, Qt::LeftButton);
+    }
+    QTest::keyClick(window->cmbYearList(), Qt::Key_Up);
+    QApplication::processEvents();
+    ASSERT_NE(SessionVarsha(), nullptr);
+    double off = std::fabs(Session().VarshaPlanets->PlanetLongi(1) - natal);
+    off = off > 180 ? 360 - off : off;
+    EXPECT_LT(off, 0.01);
+}
+
+TEST_F(AnnualPages, ThePdfWalkGoesYearByYear)
+{
+    generate();
+    ASSERT_NE(SessionVarsha(), nullptr);
+    const int age = Session().VarshaYear;
+    RecordingSink sink;
+    const ScopedMessageSink keep(&sink);
+    QTemporaryDir dir;
+    clsPDFExporter pdf;
+    pdf.filename = dir.filePath("year.pdf");
+    ASSERT_TRUE(pdf.StartExport());
+    Output() = OutputState{};
+    PageCache pages;
+    PageOutput out(nullptr, nullptr, &pdf);
+    QString error;
+    const int drawn = WalkAnnualYears(PrintWalkForMode(4, false), pages, out, 20, 2, {}, &error);
+    ASSERT_TRUE(pdf.FinishFile());
+    EXPECT_TRUE(error.isEmpty());
+    EXPECT_EQ(drawn, 18);
+    EXPECT_GE(pdf.surface().PageCount(), 18);
+    EXPECT_EQ(sink.reports, QStringList()) << "no key of the two years is missing";
+    // The session's own year is back.
+    EXPECT_EQ(Session().VarshaYear, age);
+    ASSERT_NE(SessionVarsha(), nullptr);
+    EXPECT_EQ(SessionVarsha()->Age(), age);
 }
 
 TEST_F(AnnualPages, Screenshots)
