@@ -160,7 +160,11 @@ double clsSaham::SahamLongi(int n) const
     return (this->*kMembers[static_cast<size_t>(n - 1)])();
 }
 
-long clsSaham::SahamSign(int n) const { return static_cast<long>(Fix(SahamLongi(n) / 30)) + 1; }
+long clsSaham::SahamSign(int n) const
+{
+    // A point at 360 is the end of the last sign.
+    return Norm12(static_cast<int>(Fix(SahamLongi(n) / 30)) + 1);
+}
 
 long clsSaham::SahamLord(int s) const { return clsPlanets::SignLord(s); }
 
@@ -177,4 +181,93 @@ QString clsSaham::SahamKey(int n)
     if (n < 1 || n > kCount)
         return {};
     return QString::fromLatin1(kKeys[static_cast<size_t>(n - 1)]);
+}
+
+namespace {
+bool inRanges(double d, std::initializer_list<std::pair<double, double>> halfOpen)
+{
+    for (const auto &[from, to] : halfOpen)
+        if (d >= from && d < to)
+            return true;
+    return false;
+}
+} // namespace
+
+long clsSaham::IsSahamResultFructifies(int n) const
+{
+    if (n < 1 || n > kCount)
+        return 0;
+    const clsPlanets &c = m_chart;
+    const double l = SahamLongi(n);
+    const int g = static_cast<int>(SahamSign(n));
+    const int r = static_cast<int>(SahamLord(g));
+    const int lg = c.Sign(0);
+    const int sr = c.Sign(r);
+    const auto fromLord = [&](int k) { return Norm360(l - c.PlanetLongi(clsPlanets::SignLord(Norm12(g + k)))); };
+    const double d7 = fromLord(7), d10 = fromLord(10);
+    const bool retro = c.RetroGrade(r);
+    const bool combust = clsPlanets::CheckIfCombust(r, c.PlanetLongi(1), c.PlanetLongi(r)).value_or(false);
+    const bool trika = c.PlanetInTrika(r, 0);
+    const int lagnaLordSign = c.Sign(clsPlanets::SignLord(lg));
+    int score = 0;
+    if (CheckIfSahamBenefic(n)) {
+        score += 20 * (clsPlanets::CheckIfExalted(r, sr) || clsPlanets::CheckOwnHouse(r, sr) || c.InAdhiMitraHouse(r) || c.InFriendHouse(r));
+        score += 20 * (!retro && !combust && !trika);
+        score += 20 * (sr == lagnaLordSign || sr == lg || sr == Norm12(lg + 2) || sr == Norm12(lg + 4) || sr == Norm12(lg + 8)
+                       || sr == Norm12(lg + 10) || (clsPlanets::PlanetBenefic(r) && sr == Norm12(lg + 6)));
+        score += 20 * inRanges(d7, {{4, 90}, {94, 180}, {184, 270}, {274, 360}});
+        bool pair = false;
+        for (const auto &[p, q] : {std::pair{4, 0}, {64, 60}, {124, 120}, {184, 180}, {244, 240}, {300, 300}})
+            pair = pair || (d10 <= p && d7 >= q);
+        score += 20 * pair;
+    } else {
+        score += 20 * (clsPlanets::CheckIfDebi(r, sr) || c.InAdhiSatruHouse(r) || c.InEnemyHouse(r));
+        score += 20 * (retro || combust || trika);
+        score += 20 * (sr == lagnaLordSign || sr == lg || sr == Norm12(lg + 3) || sr == Norm12(lg + 9)
+                       || (!clsPlanets::PlanetBenefic(r) && sr == Norm12(lg + 6)));
+        score += 20 * ((d7 >= 0 && d7 <= 4) || (d7 >= 90 && d7 <= 94) || (d7 >= 180 && d7 <= 184) || (d7 >= 270 && d7 <= 274));
+        bool pair = false;
+        for (const auto &[p, q] : {std::pair{4, 60}, {64, 120}, {184, 180}, {124, 240}, {244, 300}, {304, 360}})
+            pair = pair || (d10 >= p && d7 < q);
+        score += 20 * pair;
+    }
+    return score == 100 ? 3 : score == 80 ? 2 : 0;
+}
+
+QString clsSaham::SahamResultDays(int n) const
+{
+    const long fruit = IsSahamResultFructifies(n);
+    if (fruit != 2 && fruit != 3)
+        return {};
+    const clsPlanets &c = m_chart;
+    const int g = static_cast<int>(SahamSign(n));
+    const int r = static_cast<int>(SahamLord(g));
+    const double q = c.PlanetLongi(clsPlanets::SignLord(Norm12(g + (CheckIfSahamBenefic(n) ? 10 : 7))));
+    constexpr double kYear = 365.2564;
+    const long d1 = static_cast<long>(Fix(Norm360(SahamLongi(n) - q) * kYear / 360));
+    const long d2 = CLng(kYear - d1);
+    const long d3 = static_cast<long>(Fix(Norm360(c.PlanetLongi(r) - q) * kYear / 360));
+    const long d4 = CLng(kYear - d3);
+    return QStringLiteral("%1+%2+%3+%4").arg(d1).arg(d2).arg(d3).arg(d4);
+}
+
+QString clsSaham::SahamResultPatDasha(int n) const
+{
+    if (IsSahamResultFructifies(n) != 3)
+        return {};
+    const clsPlanets &c = m_chart;
+    const int lg = c.Sign(0);
+    const int g = static_cast<int>(SahamSign(n));
+    if (g != lg)
+        return {};
+    const int lord = clsPlanets::SignLord(lg);
+    const int s = c.Sign(lord);
+    const bool state = CheckIfSahamBenefic(n)
+                           ? clsPlanets::CheckIfExalted(lord, s) || clsPlanets::CheckOwnHouse(lord, s)
+                           : clsPlanets::CheckIfDebi(lord, s) || clsPlanets::CheckIfCombust(lord, c.PlanetLongi(1), c.PlanetLongi(lord)).value_or(false)
+                                 || c.PlanetInTrika(lord, 0);
+    if (!state)
+        return {};
+    return QStringLiteral("Ascendant Dasha(") + c.PlanetName(clsPlanets::SignLord(Norm12(g + 10))) + QLatin1Char('+')
+           + c.PlanetName(static_cast<int>(SahamLord(g))) + QLatin1Char(')');
 }

@@ -60,6 +60,14 @@ public:
     long SahamLord(int s) const;
     // The sahams of good effect.
     static bool CheckIfSahamBenefic(int n);
+    // Whether saham n bears fruit this year: 20 for each of five conditions of its kind; 2 for
+    // four of them, 3 for all five, else 0.
+    long IsSahamResultFructifies(int n) const;
+    // For a fructifying saham the four day counts "d1+d2+d3+d4"; else empty.
+    QString SahamResultDays(int n) const;
+    // "Ascendant Dasha(<lord>+<lord>)" when a fully fructifying saham stands in the Lagna's sign
+    // with the Lagna's lord in the state of its kind; else empty.
+    QString SahamResultPatDasha(int n) const;
     // The member name of saham n ("Punya"), the key of its English word; empty outside 1..36.
     static QString SahamKey(int n);
     // The formula: a, b, c the longitudes of bodies A, B, C (0 the Lagna), over1 and over2 (when

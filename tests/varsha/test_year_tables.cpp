@@ -187,3 +187,33 @@ TEST_F(VarshaTest, VarshaVerb)
     EXPECT_TRUE(lord >= 1 && lord <= 7);
     EXPECT_EQ(o.value("mudda").toArray().at(0).toObject().value("start").toString().size(), 16); // dd/MM/yyyy hh:mm
 }
+
+// Over many years the fruit of a saham is 0, 2 or 3, and only a fruitful one has its days: the
+// first two and the last two counts each make up a year.
+TEST_F(VarshaTest, SahamFruitAndItsDays)
+{
+    const auto birth = delhi();
+    int fruitful = 0;
+    for (int age = 1; age <= 99; age += 7) {
+        const AnnualCastResult r = CastAnnualChart(*birth, age);
+        ASSERT_TRUE(r.chart);
+        const clsSaham s(*r.chart);
+        for (int n = 1; n <= clsSaham::kCount; ++n) {
+            const long fruit = s.IsSahamResultFructifies(n);
+            ASSERT_TRUE(fruit == 0 || fruit == 2 || fruit == 3) << n;
+            const QString days = s.SahamResultDays(n);
+            if (fruit == 0) {
+                EXPECT_TRUE(days.isEmpty());
+                EXPECT_TRUE(s.SahamResultPatDasha(n).isEmpty());
+                continue;
+            }
+            ++fruitful;
+            const QStringList d = days.split('+');
+            ASSERT_EQ(d.size(), 4) << days.toStdString();
+            EXPECT_EQ(d[0].toInt() + d[1].toInt(), 365);
+            EXPECT_EQ(d[2].toInt() + d[3].toInt(), 365);
+        }
+    }
+    EXPECT_GT(fruitful, 0);
+    EXPECT_EQ(clsSaham(*birth).IsSahamResultFructifies(37), 0);
+}
