@@ -34,6 +34,9 @@
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
+
+#include <tuple>
 #include <QVBoxLayout>
 
 namespace {
@@ -272,6 +275,18 @@ void mdiMother::buildMenus()
     m_years = new QComboBox;
     m_years->setObjectName(QStringLiteral("cmbYearList"));
     m_yearBar->addWidget(m_years);
+    // The spin beside the list: a step up or down moves the list by one year within it.
+    for (const auto &[name, arrow, by] : {std::tuple{"udYearDown", Qt::LeftArrow, -1}, std::tuple{"udYearUp", Qt::RightArrow, 1}}) {
+        auto *b = new QToolButton;
+        b->setObjectName(QString::fromLatin1(name));
+        b->setArrowType(arrow);
+        m_yearBar->addWidget(b);
+        connect(b, &QToolButton::clicked, this, [this, by = by] {
+            const int index = m_years->currentIndex() + by;
+            if (index >= 0 && index < m_years->count())
+                m_years->setCurrentIndex(index);
+        });
+    }
     m_yearBar->setVisible(false);
     // The list holds the birth year and the 99 after it: the index is the age of the year.
     connect(m_years, &QComboBox::currentIndexChanged, this, &mdiMother::ChooseYear);

@@ -24,6 +24,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -120,6 +121,14 @@ TEST_F(AnnualPages, AnotherYearFromTheListRecastsAndReturnsToTheFrontPage)
     EXPECT_EQ(Session().VarshaPlanets->Person().Year(), 1980 + before + 1);
     EXPECT_EQ(window->cmbTopic->currentIndex(), 0);
     EXPECT_EQ(window->activePage()->objectName(), "frmVarFront");
+
+    // The spin beside the list steps back a year.
+    auto *down = window->findChild<QToolButton *>("udYearDown");
+    ASSERT_NE(down, nullptr);
+    QTest::mouseClick(down, Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_EQ(window->cmbYearList()->currentIndex(), before);
+    EXPECT_EQ(SessionVarsha()->Age(), before);
 
     // Back at the entry screen the reading is gone with the charts.
     window->ShowEntryScreen();
