@@ -35,9 +35,9 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <tuple>
-#include <QVBoxLayout>
 
 namespace {
 bool g_askOnExit = true;
