@@ -10,6 +10,7 @@
 #include "session/Session.h"
 #include "sky/clsPlanets.h"
 #include "text/TextDB.h"
+#include "varsha/AnnualReading.h"
 
 #include "app/TopicPages.h"
 
@@ -73,8 +74,10 @@ void generate(int mode, const QSqlDatabase &db)
         s.VarshaPlanets->setTextDB(db, QSqlDatabase());
     } else {
         s.CurPlanets = cast(db, fillDelhi);
-        if (mode == 4)
+        if (mode == 4) {
             s.VarshaYear = 30;
+            MakeVarsha();
+        }
     }
 }
 
@@ -105,9 +108,36 @@ void BM_OpenPage(benchmark::State &state, int mode, const TopicEntry &topic)
     Session().ReleaseCharts();
 }
 
+// One year of the annual reading as the year list makes it: the annual chart cast and read,
+// alone and with all nine annual pages filled. The birth chart is cast outside the timing.
+void BM_AnnualYear(benchmark::State &state, bool withPages)
+{
+    if (!textDB().isOpen()) {
+        state.SkipWithError("no English text database");
+        return;
+    }
+    for (auto _ : state) {
+        state.PauseTiming();
+        generate(1, textDB());
+        Session().ProgMode = 4;
+        Session().VarshaYear = 30;
+        state.ResumeTiming();
+        MakeVarsha();
+        if (withPages)
+            for (const TopicEntry &topic : TopicsForMode(4, true)) {
+                std::unique_ptr<TopicPage> page(CreateTopicPage(topic.Page));
+                page->Load();
+            }
+    }
+    ReleaseVarsha();
+    Session().ReleaseCharts();
+}
+
 // One benchmark per topic of every mode's full list whose page exists.
 void registerPages()
 {
+    benchmark::RegisterBenchmark("Varshaphala/CastYear", BM_AnnualYear, false)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("Varshaphala/CastYearAndNinePages", BM_AnnualYear, true)->Unit(benchmark::kMillisecond);
     for (int mode = 1; mode <= 4; ++mode) {
         for (const TopicEntry &topic : TopicsForMode(mode, true)) {
             if (topic.Page.isEmpty())
@@ -142,6 +172,7 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
+    ReleaseVarsha();
     Session().ReleaseCharts();
     Session().TextDB = QSqlDatabase();
     CloseTextDB(textDB());

@@ -19,6 +19,13 @@
 #include "strength/pages/frmBhav.h"
 #include "strength/pages/frmShadbala.h"
 #include "text/pages/frmForText.h"
+#include "varsha/pages/VarshaTextPages.h"
+#include "varsha/pages/frmVarBalas.h"
+#include "varsha/pages/frmVarChart2.h"
+#include "varsha/pages/frmVarFront.h"
+#include "varsha/pages/frmVarSaham.h"
+#include "varsha/pages/frmVarTripat.h"
+#include "varsha/pages/frmVarshaDasha.h"
 #include "yoga/pages/frmPrediYogas.h"
 
 namespace {
@@ -54,4 +61,13 @@ void RegisterTopicPages()
         const QStringList keys = PrintKeys(2, false);
         return WriteSessionPdf(2, QSet<QString>(keys.begin(), keys.end()), file, out, err);
     });
+    page<frmVarFront>("frmVarFront");
+    page<frmVarshaDasha>("frmVarshaDasha");
+    page<frmVarBalas>("frmVarBalas");
+    page<frmVarChart2>("frmVarChart2");
+    page<frmVarTripat>("frmVarTripat");
+    page<frmVarSaham>("frmVarSaham");
+    page<frmVarshaText>("frmVarshaText");
+    page<frmVarChartTxt>("frmVarChartTxt");
+    page<frmVarPlHText>("frmVarPlHText");
 }

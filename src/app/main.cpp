@@ -4,6 +4,7 @@
 #include "cli/ChartCommand.h"
 #include "cli/CommandLine.h"
 #include "cli/MatchCommand.h"
+#include "cli/VarshaCommand.h"
 #include "output/ui/PdfCommand.h"
 #include "session/ui/MessageBoxSink.h"
 #include "session/ui/frmSplash.h"
@@ -17,11 +18,14 @@
 
 namespace {
 
+int runVarsha(const QStringList &args, QTextStream &out, QTextStream &err) { return RunVarshaCommand(args, out, err, WriteVarshaPdf); }
+
 // The verbs of the command line, in the order its usage lists them.
 constexpr std::array kVerbs{
     CliVerb{"chart", "Cast a chart and print it as a table or as JSON.", false, RunChartCommand},
     CliVerb{"pdf", "Write chosen topics of the horoscope to a PDF file.", true, RunPdfCommand},
     CliVerb{"match", "Match a couple: Guna milan, Manglik and the further checks, as a table, JSON or PDF.", true, RunMatchCommand},
+    CliVerb{"varsha", "Read one year of a birth (Varshaphala) as a summary, JSON or a PDF file.", true, runVarsha},
 };
 
 void nameApplication()

@@ -17,6 +17,7 @@
 #include "session/ui/frmLogin.h"
 #include "session/ui/frmWizard.h"
 #include "sky/Functions.h"
+#include "varsha/AnnualReading.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -34,7 +35,10 @@
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
+
+#include <tuple>
 
 namespace {
 bool g_askOnExit = true;
@@ -283,12 +287,21 @@ void mdiMother::buildMenus()
     m_years = new QComboBox;
     m_years->setObjectName(QStringLiteral("cmbYearList"));
     m_yearBar->addWidget(m_years);
+    // The spin beside the list: a step up or down moves the list by one year within it.
+    for (const auto &[name, arrow, by] : {std::tuple{"udYearDown", Qt::LeftArrow, -1}, std::tuple{"udYearUp", Qt::RightArrow, 1}}) {
+        auto *b = new QToolButton;
+        b->setObjectName(QString::fromLatin1(name));
+        b->setArrowType(arrow);
+        m_yearBar->addWidget(b);
+        connect(b, &QToolButton::clicked, this, [this, by = by] {
+            const int index = m_years->currentIndex() + by;
+            if (index >= 0 && index < m_years->count())
+                m_years->setCurrentIndex(index);
+        });
+    }
     m_yearBar->setVisible(false);
     // The list holds the birth year and the 99 after it: the index is the age of the year.
-    connect(m_years, &QComboBox::currentIndexChanged, this, [](int i) {
-        if (i >= 0)
-            Session().VarshaYear = i;
-    });
+    connect(m_years, &QComboBox::currentIndexChanged, this, &mdiMother::ChooseYear);
 }
 
 void mdiMother::buildNavigateMenus()
@@ -545,7 +558,10 @@ void mdiMother::StartSession()
         const int birthYear = static_cast<int>(Val(m_login->single->txtDate->text().right(4)));
         FillYearList(birthYear);
         const int item = QDate::currentDate().year() - birthYear - 1;
+        const QSignalBlocker block(m_years);
         m_years->setCurrentIndex(item >= 0 && item <= 99 ? item : 0);
+        Session().VarshaYear = m_years->currentIndex();
+        makeYear();
     }
     m_stack->setCurrentWidget(m_sessionPage);
     BuildTopicList(s.ProgMode);
@@ -567,9 +583,28 @@ void mdiMother::StartSession()
     SelectTopic(0);
 }
 
+void mdiMother::makeYear()
+{
+    const QString error = MakeVarsha();
+    if (!error.isEmpty())
+        QMessageBox::warning(this, QStringLiteral("Varshaphala"), error);
+}
+
+void mdiMother::ChooseYear(int index)
+{
+    if (index < 0 || Session().ProgMode != 4 || !Session().CurPlanets)
+        return;
+    // The annual pages of the old year go; the new year opens on its front page.
+    UnloadPages();
+    Session().VarshaYear = index;
+    makeYear();
+    SelectTopic(0);
+}
+
 void mdiMother::ShowEntryScreen()
 {
     UnloadPages();
+    ReleaseVarsha();
     Session().ReleaseCharts();
     m_tools->setVisible(false);
     m_yearBar->setVisible(false);
@@ -590,6 +625,7 @@ void mdiMother::closeEvent(QCloseEvent *event)
         return;
     }
     UnloadPages();
+    ReleaseVarsha();
     Session().ReleaseCharts();
     event->accept();
 }

@@ -45,6 +45,9 @@ public:
     // The year list of the annual reading: the birth year and the 99 after it.
     void FillYearList(int birthYear);
     QComboBox *cmbYearList() const { return m_years; }
+    // A choice in the year list: the annual chart of that index (the age) is cast anew, the old
+    // year's pages unloaded, and the front page shown.
+    void ChooseYear(int index);
     // When false, closing asks nothing (tests).
     static void setAskOnExit(bool ask);
 
@@ -101,6 +104,8 @@ private:
     // The print screen in mode 1 (print) or 3 (PDF); the pages are made afresh afterwards.
     void runPrintScreen(int mode);
     void step(int by);
+    // The reading of the session's year, with a message when it can't be cast.
+    void makeYear();
     QStackedWidget *m_stack;
     frmLogin *m_login;
     QWidget *m_sessionPage;

@@ -506,6 +506,31 @@ private:
     mutable std::array<int, 11> m_vimPeriod{};
     // ---- end of the Vimshottari cycle ----
 
+    // ---- Upagrahas (clsPlanets_upagrahas.cpp) ----
+public:
+    // The nine Sun-based points, each a fixed chain of arithmetic from the Sun's longitude.
+    double DhumaLongi() const;
+    double VyatipataLongi() const;
+    double PariveshaLongi() const;
+    double IndraChapaLongi() const;
+    double UpaketuLongi() const;
+    double BhukampaLongi() const;
+    double UlkaLongi() const;
+    double BrahmadandaLongi() const;
+    double DhwajaLongi() const;
+    // Upagraha n: 1..9 the Sun-based points; 0 for the others until their moments are cast.
+    double UpagrahaLongi(int n) const;
+    // Its sign 1..12, nakshatra 1..27 and pada 1..4.
+    int UpagrahaSign(int n) const;
+    int UpagrahaNak(int n) const;
+    int UpaNakPada(int n) const;
+    // Lord of the first five: 1 Mars, 2 Rahu, 3 Moon, 4 Venus, 5 Ketu; 0 for the others.
+    static int UpagrahaLord(int n);
+    // Names under heads "Upagrahas" and "UpagrahaSmall".
+    QString UpagrahaName(int n) const;
+    QString UpagrahaNameSmall(int n) const;
+    // ---- end of the upagrahas ----
+
     // ---- Divisional charts (clsPlanets_divisions.cpp) ----
 public:
     // Fills the divisional table from the positions 0..12; the last step of Calculate.

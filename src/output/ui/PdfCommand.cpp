@@ -74,3 +74,25 @@ int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err)
         return status;
     });
 }
+
+int WriteVarshaPdf(const QString &file, QTextStream &out, QTextStream &err)
+{
+    clsPDFExporter pdf;
+    pdf.filename = file;
+    if (!pdf.StartExport()) {
+        err << "Cannot write " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
+        return 1;
+    }
+    Output().PrintAbort = false;
+    Output().PageCounter = 1;
+    PageCache pages;
+    PageOutput output(nullptr, nullptr, &pdf);
+    const int drawn = WalkSteps(PrintWalkForMode(4, false), pages, output);
+    pages.UnloadPages();
+    if (!pdf.FinishFile()) {
+        err << "Cannot complete " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
+        return 1;
+    }
+    out << "Wrote " << drawn << " topics, " << pdf.surface().PageCount() << " pages to " << file << '\n';
+    return 0;
+}

@@ -4,6 +4,8 @@
 #include "output/ui/PageCache.h"
 #include "output/ui/PageOutput.h"
 #include "output/ui/TextPage.h"
+#include "session/Session.h"
+#include "varsha/AnnualReading.h"
 
 #include <QCoreApplication>
 
@@ -31,5 +33,31 @@ int WalkSteps(const QList<PrintStep> &steps, PageCache &pages, PageOutput &out, 
             hooks.progress(static_cast<int>(100.0 * (i + 1) / steps.size()));
         QCoreApplication::processEvents();
     }
+    return drawn;
+}
+
+int WalkAnnualYears(const QList<PrintStep> &steps, PageCache &pages, PageOutput &out, int firstAge, int count, const PrintRunHooks &hooks,
+                    QString *error)
+{
+    SessionGlobals &s = Session();
+    const int kept = s.VarshaYear;
+    int drawn = 0;
+    for (int i = 0; i < count && !Output().PrintAbort; ++i) {
+        pages.UnloadPages();
+        s.VarshaYear = firstAge + i;
+        const QString failed = MakeVarsha();
+        if (!failed.isEmpty()) {
+            if (error)
+                *error = failed;
+            break;
+        }
+        PrintRunHooks yearHooks = hooks;
+        if (hooks.progress)
+            yearHooks.progress = [&hooks, i, count](int percent) { hooks.progress((100 * i + percent) / count); };
+        drawn += WalkSteps(steps, pages, out, yearHooks);
+    }
+    pages.UnloadPages();
+    s.VarshaYear = kept;
+    MakeVarsha();
     return drawn;
 }

@@ -21,3 +21,9 @@ struct PrintRunHooks
 // Walks steps in their order onto out, loading pages from pages. Pages not in this program are
 // passed over. Returns the number of steps drawn.
 int WalkSteps(const QList<PrintStep> &steps, PageCache &pages, PageOutput &out, const PrintRunHooks &hooks = {});
+
+// The annual walk: for each of count years from the age firstAge on, the year's reading is made
+// and its pages walked anew; afterwards the session's year is what it was. Returns the steps
+// drawn; a year that can't be cast ends the run, its reason in *error when given.
+int WalkAnnualYears(const QList<PrintStep> &steps, PageCache &pages, PageOutput &out, int firstAge, int count,
+                    const PrintRunHooks &hooks = {}, QString *error = nullptr);

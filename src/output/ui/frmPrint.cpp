@@ -8,6 +8,7 @@
 #include "output/ui/PrintRun.h"
 #include "output/ui/frmStatus.h"
 #include "session/Session.h"
+#include "sky/Functions.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -232,6 +233,14 @@ bool frmPrint::cmdPrint_Click(const QString &file)
     const SessionGlobals &s = Session();
     Output().PrintAbort = false;
     const QList<PrintStep> steps = SelectedSteps(s.ProgMode, s.Language.Extended, tickedKeys());
+    // The annual walk starts at an age of the year list; anything else is refused before any output opens.
+    const bool annual = s.ProgMode == 4 && s.CurPlanets;
+    const int firstAge = annual ? static_cast<int>(Val(txtStartYear->text())) - static_cast<int>(s.CurPlanets->Person().Year()) : 0;
+    if (annual && (firstAge < 0 || firstAge > 99)) {
+        QMessageBox::warning(this, QStringLiteral("Varshaphala"),
+                             QStringLiteral("The start year must lie within the birth year and the 99 years after it."));
+        return false;
+    }
 
     clsPDFExporter pdf;
     QPrinter printer(QPrinter::HighResolution);
@@ -282,7 +291,16 @@ bool frmPrint::cmdPrint_Click(const QString &file)
             beginJob();
         }
     };
-    WalkSteps(steps, m_pages, out, hooks);
+    if (annual) {
+        // Each year of the span gets its own reading and pages; the years end with the list's
+        // hundredth.
+        QString error;
+        WalkAnnualYears(steps, m_pages, out, firstAge, qMin(txtYearCount->value(), 100 - firstAge), hooks, &error);
+        if (!error.isEmpty())
+            QMessageBox::warning(this, QStringLiteral("Varshaphala"), error);
+    } else {
+        WalkSteps(steps, m_pages, out, hooks);
+    }
     if (painter.isActive())
         painter.end();
     bool ok = true;

@@ -41,6 +41,12 @@ frmCalcOptions::frmCalcOptions(QWidget *parent) : QDialog(parent)
     vv->addWidget(optSouthMar);
     vv->addWidget(optNorthMar);
 
+    auto *annual = new QGroupBox(QStringLiteral("Varshaphala"));
+    chkExactReturn = new QCheckBox(QStringLiteral("Begin the year at the exact return of the Sun"), annual);
+    chkExactReturn->setObjectName(QStringLiteral("chkExactReturn"));
+    auto *av = new QVBoxLayout(annual);
+    av->addWidget(chkExactReturn);
+
     cmdOK = new QPushButton(QStringLiteral("&OK"));
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
@@ -56,6 +62,7 @@ frmCalcOptions::frmCalcOptions(QWidget *parent) : QDialog(parent)
     v->setSpacing(10);
     v->addWidget(mang);
     v->addWidget(varna);
+    v->addWidget(annual);
     v->addStretch(1);
     v->addLayout(buttons);
 
@@ -63,6 +70,7 @@ frmCalcOptions::frmCalcOptions(QWidget *parent) : QDialog(parent)
     (southMang ? optSouthMang : optNorthMang)->setChecked(true);
     const bool southVarna = AppSettings::value(kSettings, QStringLiteral("CalcVarMod"), 1).toInt() == 2;
     (southVarna ? optSouthMar : optNorthMar)->setChecked(true);
+    chkExactReturn->setChecked(AppSettings::value(kSettings, QStringLiteral("ExactReturn"), false).toBool());
 
     connect(cmdOK, &QPushButton::clicked, this, &frmCalcOptions::cmdOK_Click);
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::reject);
@@ -73,5 +81,6 @@ void frmCalcOptions::cmdOK_Click()
 {
     AppSettings::setValue(kSettings, QStringLiteral("CalcVarMod"), optNorthMar->isChecked() ? 1 : 2);
     AppSettings::setValue(kSettings, QStringLiteral("CalcMangMod"), optNorthMang->isChecked() ? 1 : 2);
+    AppSettings::setValue(kSettings, QStringLiteral("ExactReturn"), chkExactReturn->isChecked());
     accept();
 }

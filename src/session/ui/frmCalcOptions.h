@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 // "Regional Settings": the Manglik reckoning (CalcMangMod) and the Varna reckoning (CalcVarMod),
-// 1 North and 2 South. OK writes both and closes; Close closes without writing.
+// 1 North and 2 South, and the cast of the annual chart (ExactReturn: the traditional offset, or
+// the exact return of the Sun). OK writes them and closes; Close closes without writing.
 
+#include <QCheckBox>
 #include <QDialog>
 #include <QPushButton>
 #include <QRadioButton>
@@ -17,6 +19,7 @@ public:
     QRadioButton *optSouthMang;
     QRadioButton *optSouthMar;
     QRadioButton *optNorthMar;
+    QCheckBox *chkExactReturn;
     QPushButton *cmdOK;
     QPushButton *cmdClose;
 
