@@ -3,6 +3,7 @@
 #include "app/mdiMother.h"
 #include "cli/ChartCommand.h"
 #include "cli/CommandLine.h"
+#include "cli/MuhurthaCommand.h"
 #include "output/ui/PdfCommand.h"
 #include "session/ui/MessageBoxSink.h"
 #include "session/ui/frmSplash.h"
@@ -20,6 +21,7 @@ namespace {
 constexpr std::array kVerbs{
     CliVerb{"chart", "Cast a chart and print it as a table or as JSON.", false, RunChartCommand},
     CliVerb{"pdf", "Write chosen topics of the horoscope to a PDF file.", true, RunPdfCommand},
+    CliVerb{"muhurtha", "List the acts, or find the best moment for one within a span of days.", false, RunMuhurthaCommand},
 };
 
 void nameApplication()

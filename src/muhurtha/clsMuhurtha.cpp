@@ -4,6 +4,7 @@
 #include "muhurtha/clsMuhurtha.h"
 
 #include "muhurtha/clsGochara.h"
+#include "muhurtha/MuhurthaSpan.h"
 #include "session/DataPaths.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
@@ -455,7 +456,26 @@ QString clsMuhurtha::PredictionText() const
     const QVariant code = GetMuhuPrediCode(m_name);
     if (!code.isValid() || code.isNull() || !m_textDb.isValid())
         return {};
-    return GetHeadValue(m_textDb, 10, code).toString();
+    return GetHeadValue(m_textDb, 10, code, MuhuPredictionBand(BestMuhuPercent())).toString();
+}
+
+std::vector<MuhuElementHit> clsMuhurtha::SplitFructElems(const QString &text)
+{
+    std::vector<MuhuElementHit> hits;
+    for (const QString &part : text.split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
+        const qsizetype dash = part.indexOf(QLatin1Char('-'));
+        if (dash < 0)
+            continue;
+        hits.push_back({part.left(dash), CLng(Val(part.mid(dash + 1)))});
+    }
+    return hits;
+}
+
+QString clsMuhurtha::MomentText(const clsPlanets &chart)
+{
+    const clsPerson &p = chart.Person();
+    return p.DayText() + QLatin1Char('/') + p.MonthText() + QLatin1Char('/') + QString::number(p.Year()) + QLatin1Char(' ')
+        + p.GetBirthTime();
 }
 
 bool clsMuhurtha::GetHariShayan(int tithi, int month)

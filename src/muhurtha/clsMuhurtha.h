@@ -29,6 +29,13 @@ struct MuhuSample
     QString fructElems; // "CODE-points:" for each element that fired, in rule order
 };
 
+// One element that fired, read back from a sample's fructified text.
+struct MuhuElementHit
+{
+    QString code;
+    long points = 0;
+};
+
 // One act of table MUHU.
 struct MuhuAct
 {
@@ -146,8 +153,13 @@ public:
     QString GetMuhuName(const QString &code) const;
     // Key of the act's prediction text in table Muhu; Empty when the act has none.
     QVariant GetMuhuPrediCode(const QString &name) const;
-    // The prediction text of the loaded act; "" when there is none.
+    // The prediction text of the loaded act in the band of the best moment's percentage; ""
+    // when there is none.
     QString PredictionText() const;
+    // The elements of a fructified text ("T-5:RAHUKAAL--3:") in their order.
+    static std::vector<MuhuElementHit> SplitFructElems(const QString &text);
+    // "dd/MM/yyyy hh.mm" of a chart's moment.
+    static QString MomentText(const clsPlanets &chart);
     static bool GetHariShayan(int tithi, int month);
     static bool GetKharMaas(int sign);
     static int TithiGroup(int tithi);
