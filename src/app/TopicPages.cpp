@@ -2,6 +2,8 @@
 #include "app/TopicPages.h"
 
 #include "dasha/pages/frmVimsot.h"
+#include "muhurtha/pages/frmMuhuCover.h"
+#include "muhurtha/pages/frmMuhuText.h"
 #include "output/ui/TopicPage.h"
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
@@ -34,4 +36,6 @@ void RegisterTopicPages()
     page<frmPratyan>("frmPratyan");
     page<frmPrediYogas>("frmPrediYogas");
     page<frmForText>("frmForText");
+    page<frmMuhuCover>("frmMuhuCover");
+    page<frmMuhuText>("frmMuhuText");
 }

@@ -7,6 +7,7 @@ void SessionGlobals::ReleaseCharts()
     BoyPlanets.reset();
     GalPlanets.reset();
     VarshaPlanets.reset();
+    Muhurtha.reset();
 }
 
 SessionGlobals &Session()

@@ -3,6 +3,7 @@
 // The session's globals: the mode, the charts of the session and the two databases, with the
 // language's font sizes that every page reads. One instance, made at start.
 
+#include "muhurtha/clsMuhurtha.h"
 #include "sky/clsPlanets.h"
 
 #include <QSqlDatabase>
@@ -29,13 +30,15 @@ struct SessionGlobals
     std::unique_ptr<clsPlanets> GalPlanets;
     std::unique_ptr<clsPlanets> VarshaPlanets;
     int VarshaYear = 1;
+    // The electional search of Muhurtha mode, with its result.
+    std::unique_ptr<clsMuhurtha> Muhurtha;
     // RECOS.Dat: persons, atlas, page sets, themes.
     QSqlDatabase RecDB;
     // The chosen language's text database.
     QSqlDatabase TextDB;
     LanguageStyle Language;
 
-    // Releases the four charts.
+    // Releases the four charts and the electional search.
     void ReleaseCharts();
 };
 
