@@ -76,7 +76,8 @@ void frmLogin::buildMuhurthaPanel()
 
     auto *grid = new QGridLayout(frmMuhu);
     grid->setHorizontalSpacing(8);
-    grid->addWidget(lstMuhu, 0, 0, 1, 4);
+    grid->addWidget(lstMuhu, 0, 0, 1, 5);
+    grid->setColumnStretch(4, 1); // the fields keep to the left
     grid->addWidget(new QLabel(QStringLiteral("From")), 1, 0);
     grid->addWidget(txtMuhuFrom, 1, 1);
     grid->addWidget(new QLabel(QStringLiteral("To")), 1, 2, Qt::AlignRight);
@@ -93,7 +94,7 @@ void frmLogin::buildMuhurthaPanel()
     couple->addWidget(new QLabel(QStringLiteral("Bride")), 1, 0);
     couple->addWidget(cmbMuhuGal, 1, 1);
     couple->setColumnStretch(2, 1);
-    grid->addWidget(frmMuhuCouple, 3, 0, 1, 4);
+    grid->addWidget(frmMuhuCouple, 3, 0, 1, 5);
     frmMuhuCouple->hide();
     frmMuhu->hide();
 
