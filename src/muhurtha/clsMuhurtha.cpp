@@ -169,6 +169,7 @@ bool clsMuhurtha::LoadMuhuByCode(const QString &code)
 
 void clsMuhurtha::PrepareScanChart(const clsPlanets &chart)
 {
+    m_sunrises.clear();
     const clsPerson &from = chart.Person();
     clsPerson &p = m_scan->Person();
     p.setDay(m_startDate.day());
@@ -187,7 +188,6 @@ void clsMuhurtha::PrepareScanChart(const clsPlanets &chart)
     p.setPLOB(from.PLOB());
     p.setCountry(from.Country());
     p.setName(from.Name());
-    m_scan->setAyanType(chart.AyanType());
     m_scan->setRahuKetuMode(chart.RahuKetuMode());
     m_scan->setTextDB(m_textDb, QSqlDatabase());
     m_scan->Calculate();
@@ -339,7 +339,6 @@ void clsMuhurtha::RankMuhurthas()
 
     m_bestChart = std::make_unique<clsPlanets>();
     m_scan->CopySettingTo(*m_bestChart);
-    m_bestChart->setAyanType(m_scan->AyanType());
     m_bestChart->setRahuKetuMode(m_scan->RahuKetuMode());
     m_bestChart->setTextDB(m_textDb, QSqlDatabase());
     clsPerson &p = m_bestChart->Person();
@@ -416,7 +415,6 @@ QString clsMuhurtha::lagnaTime(const QDateTime &moment, double offset)
 {
     clsPlanets work;
     m_scan->CopySettingTo(work);
-    work.setAyanType(m_scan->AyanType());
     work.setRahuKetuMode(m_scan->RahuKetuMode());
     work.SetBirthDate(moment);
     work.Calculate();

@@ -194,6 +194,10 @@ private:
     bool lattaDosha() const;
     bool paatDosha() const;
     QString lagnaTime(const QDateTime &moment, double offset);
+    // The sunrise (hh.mm) of the scan chart's day, cast once a day at 06.00 and kept.
+    double daySunrise() const;
+    mutable QHash<QDate, double> m_sunrises;
+    mutable std::unique_ptr<clsPlanets> m_dayChart; // made once: a new chart reads the settings store
 
     QSqlDatabase m_db;
     QSqlDatabase m_textDb;

@@ -257,7 +257,7 @@ bool clsMuhurtha::vishDayFires() const
     const int weekday = m_scan->Person().WeekDayOfBirth();
     if (weekday < 1 || weekday > 7)
         return false;
-    const double r = m_scan->SunRiseTime();
+    const double r = daySunrise();
     const double x = kVishGhati[static_cast<size_t>(weekday - 1)] * 24.0 / 60.0;
     double start = r + Int(x) + (x - Int(x)) * 60 / 100;
     // The minutes are compared to two places, so that 0.59 written as 0.5900001 carries no hour.
@@ -265,6 +265,28 @@ bool clsMuhurtha::vishDayFires() const
         start = start - 0.6 + 1;
     const double t = m_scan->Person().GetBirthDecimalTime();
     return start <= t && t <= start + 1.6;
+}
+
+double clsMuhurtha::daySunrise() const
+{
+    const clsPerson &p = m_scan->Person();
+    const QDate date(static_cast<int>(p.Year()), static_cast<int>(p.Month()), static_cast<int>(p.Day()));
+    const auto it = m_sunrises.constFind(date);
+    if (it != m_sunrises.cend())
+        return *it;
+    // One reference clock a day: every moment of the day, and a moment tested alone, read the
+    // same sunrise.
+    if (!m_dayChart)
+        m_dayChart = std::make_unique<clsPlanets>();
+    clsPlanets &day = *m_dayChart;
+    m_scan->CopySettingTo(day);
+    day.setRahuKetuMode(m_scan->RahuKetuMode());
+    day.Person().setHour(6);
+    day.Person().setMinutes(0);
+    day.Calculate();
+    const double r = day.SunRiseTime();
+    m_sunrises.insert(date, r);
+    return r;
 }
 
 bool clsMuhurtha::lagnaShuddhi() const
