@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The electional search: loading an act, sampling the span, ranking the moments.
-// The tests of the single elements live in clsMuhurtha_elements.cpp.
+// The rule of each element lives in clsMuhurtha_elements.cpp.
 #include "muhurtha/clsMuhurtha.h"
 
 #include "muhurtha/clsGochara.h"
