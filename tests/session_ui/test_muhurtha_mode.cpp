@@ -7,6 +7,7 @@
 #include "output/ui/TextPage.h"
 #include "output/ui/TopicPage.h"
 #include "output/ui/frmPrint.h"
+#include "session/PersonStore.h"
 #include "session_ui/SessionWindow.h"
 #include "text/TextDB.h"
 
@@ -206,4 +207,42 @@ TEST_F(MuhurthaMode, Screenshots)
         QApplication::processEvents();
         window->activePage()->grab().save(QStringLiteral("%1/page-%2.png").arg(out, window->topics()[i].Page.mid(3).toLower()));
     }
+}
+
+TEST_F(MuhurthaMode, AMarriageReadsTheCoupleChosenFromTheStore)
+{
+    PersonStore people(Session().RecDB);
+    people.SavePerson(PersonRow::fromFields("Ravi", true, "03/03/1990", "10.00", true, "India", "Delhi", "028:39", "N", "077:14",
+                                           "E", "+05.30", "-00.00", 0));
+    people.SavePerson(PersonRow::fromFields("Sita", false, "09/09/1992", "15.00", false, "India", "Delhi", "028:39", "N", "077:14",
+                                            "E", "+05.30", "-00.00", 0));
+    screen->FillPersonLists();
+    fillHouseWarming();
+    chooseAct("VIVAH");
+    ASSERT_TRUE(screen->frmMuhuCouple->isVisible());
+    EXPECT_EQ(screen->cmbMuhuBoy->currentText(), "Ravi");
+    EXPECT_EQ(screen->cmbMuhuGal->currentText(), "Sita");
+    ASSERT_TRUE(clickGenerate());
+    ASSERT_NE(Session().BoyPlanets, nullptr);
+    ASSERT_NE(Session().GalPlanets, nullptr);
+    EXPECT_EQ(Session().GalPlanets->Person().Year(), 1992);
+    EXPECT_EQ(Session().CurPlanets->Person().Name(), "Ravi & Sita") << "the page foot and the print header name the couple";
+    EXPECT_EQ(Session().Muhurtha->MuhuCategory(), "MARRIAGE");
+
+    // The same moment scored without the couple loses exactly what their charts gave.
+    const clsMuhurtha &m = *Session().Muhurtha;
+    long natal = 0;
+    for (const MuhuElementHit &h : clsMuhurtha::SplitFructElems(m.BestMuhuFructElems()))
+        if (h.code == "TG" || h.code == "M12")
+            natal += h.points;
+    clsMuhurtha alone;
+    clsPlanets at;
+    Session().CurPlanets->CopySettingTo(at);
+    at.Person().setDay(m.BestMuhuDate().day());
+    at.Person().setMonth(m.BestMuhuDate().month());
+    at.Person().setYear(m.BestMuhuDate().year());
+    at.Person().setHour(m.BestMuhuTime().left(2).toInt());
+    at.Person().setMinutes(m.BestMuhuTime().right(2).toInt());
+    alone.CheckMuhuMoment(m.MuhuName(), "MARRIAGE", at);
+    EXPECT_EQ(std::max(0.0, alone.BestMuhuScoreValue()), std::max(0.0, m.BestMuhuScoreValue() - natal));
 }
