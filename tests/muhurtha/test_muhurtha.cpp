@@ -221,6 +221,16 @@ TEST_F(MuhurthaTest, TithiAndSignElements)
     moment(QStringLiteral("SUN"), sky(40, 250));
     EXPECT_FALSE(on(QStringLiteral("KRANTISAMYA")));
 
+    moment(QStringLiteral("SUN"), sky(280, 10)); // Sun in Capricorn: northward
+    EXPECT_TRUE(on(QStringLiteral("UTTARAYAN")));
+    moment(QStringLiteral("SUN"), sky(150, 10)); // Sun in Leo: southward
+    EXPECT_FALSE(on(QStringLiteral("UTTARAYAN")));
+
+    moment(QStringLiteral("SUN"), sky(100, 10)); // Jupiter and Venus at 95, 5 degrees from the Sun
+    EXPECT_TRUE(on(QStringLiteral("JUPVENCOMBUST")));
+    moment(QStringLiteral("SUN"), sky(10, 40));
+    EXPECT_FALSE(on(QStringLiteral("JUPVENCOMBUST")));
+
     moment(QStringLiteral("SUN"), sky(285, 300)); // Sunday, tithi 2, nakshatra 23
     EXPECT_TRUE(on(QStringLiteral("DP")));
     moment(QStringLiteral("SUN"), sky(15, 30)); // Sunday, tithi 2, nakshatra 3
