@@ -30,7 +30,8 @@ QLineEdit *maskedField(const QString &mask, const QString &text, int width, cons
 class StatusProgress : public MuhurthaProgress
 {
 public:
-    explicit StatusProgress(QWidget *parent) : m_status(parent) {}
+    // Modal: while the search yields to the window's events, nothing else on screen may start.
+    explicit StatusProgress(QWidget *parent) : m_status(parent) { m_status.setWindowModality(Qt::ApplicationModal); }
     void start(const QString &, const QString &) override
     {
         m_status.MuhurthaStatus();
