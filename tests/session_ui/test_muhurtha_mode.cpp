@@ -18,6 +18,7 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QTextEdit>
+#include <QTimer>
 
 namespace {
 
@@ -245,4 +246,26 @@ TEST_F(MuhurthaMode, AMarriageReadsTheCoupleChosenFromTheStore)
     at.Person().setMinutes(m.BestMuhuTime().right(2).toInt());
     alone.CheckMuhuMoment(m.MuhuName(), "MARRIAGE", at);
     EXPECT_EQ(std::max(0.0, alone.BestMuhuScoreValue()), std::max(0.0, m.BestMuhuScoreValue() - natal));
+}
+
+TEST_F(MuhurthaMode, CancelInTheStatusWindowStopsTheSearch)
+{
+    fillHouseWarming();
+    type(screen->txtMuhuTo, "28022026");
+    bool clicked = false;
+    // The first pending events the search lets through press the status window's Cancel.
+    QTimer::singleShot(0, [&clicked] {
+        for (QWidget *w : QApplication::topLevelWidgets())
+            if (w->objectName() == "frmStatus" && w->isVisible())
+                if (auto *cancel = w->findChild<QPushButton *>("cmdCancel"); cancel && cancel->isVisible()) {
+                    QTest::mouseClick(cancel, Qt::LeftButton);
+                    clicked = true;
+                }
+    });
+    EXPECT_FALSE(clickGenerate());
+    EXPECT_TRUE(clicked);
+    EXPECT_EQ(Session().Muhurtha, nullptr);
+    EXPECT_EQ(Session().CurPlanets, nullptr);
+    EXPECT_TRUE(screen->lblHints->text().contains("stopped"));
+    EXPECT_TRUE(screen->isVisible()) << "the entry screen stays";
 }
