@@ -11,6 +11,8 @@
 #include "marriage/pages/frmMarText.h"
 #include "output/PrintTree.h"
 #include "output/ui/PdfCommand.h"
+#include "muhurtha/pages/frmMuhuCover.h"
+#include "muhurtha/pages/frmMuhuText.h"
 #include "output/ui/TopicPage.h"
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
@@ -70,4 +72,6 @@ void RegisterTopicPages()
     page<frmVarshaText>("frmVarshaText");
     page<frmVarChartTxt>("frmVarChartTxt");
     page<frmVarPlHText>("frmVarPlHText");
+    page<frmMuhuCover>("frmMuhuCover");
+    page<frmMuhuText>("frmMuhuText");
 }

@@ -5,6 +5,7 @@
 #include "cli/CommandLine.h"
 #include "cli/MatchCommand.h"
 #include "cli/VarshaCommand.h"
+#include "cli/MuhurthaCommand.h"
 #include "output/ui/PdfCommand.h"
 #include "session/ui/MessageBoxSink.h"
 #include "session/ui/frmSplash.h"
@@ -26,6 +27,7 @@ constexpr std::array kVerbs{
     CliVerb{"pdf", "Write chosen topics of the horoscope to a PDF file.", true, RunPdfCommand},
     CliVerb{"match", "Match a couple: Guna milan, Manglik and the further checks, as a table, JSON or PDF.", true, RunMatchCommand},
     CliVerb{"varsha", "Read one year of a birth (Varshaphala) as a summary, JSON or a PDF file.", true, runVarsha},
+    CliVerb{"muhurtha", "List the acts, or find the best moment for one within a span of days.", false, RunMuhurthaCommand},
 };
 
 void nameApplication()

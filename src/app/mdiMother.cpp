@@ -430,7 +430,7 @@ void mdiMother::ShowTopic(int index)
         m_active->hide();
     m_active = nullptr;
     const int mode = Session().ProgMode;
-    if ((mode == 1 || mode == 2 || mode == 4) && index >= 0 && index < m_topicList.size()) {
+    if (mode >= 1 && mode <= 4 && index >= 0 && index < m_topicList.size()) {
         const TopicEntry &t = m_topicList[index];
         if (TopicPage *page = m_pages->load(t.Page)) {
             if (t.PageArg > 0)
@@ -549,7 +549,8 @@ void mdiMother::StartSession()
     const SessionGlobals &s = Session();
     m_nameStrip->setText(s.ProgMode == 2 ? m_login->boy->cmbName->currentText() + QStringLiteral(" & ")
                                                + m_login->gal->cmbName->currentText()
-                                         : m_login->single->cmbName->currentText());
+                                         : s.ProgMode == 3 && s.CurPlanets ? s.CurPlanets->Person().Name()
+                                                                           : m_login->single->cmbName->currentText());
     UnloadPages();
     m_tools->setVisible(viewSetting("Toolbar", true).toBool());
     bBar->setVisible(viewSetting("BotBar", true).toBool());

@@ -3,7 +3,7 @@
 
 #include "sky/AppSettings.h"
 #include "session/AtlasLookup.h"
-#include "session/DataPaths.h"
+#include "sky/DataPaths.h"
 #include "session/EntryValidation.h"
 #include "session/ZoneHistory.h"
 #include "sky/Functions.h"

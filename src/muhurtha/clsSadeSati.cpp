@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "muhurtha/clsSadeSati.h"
 
-#include "session/DataPaths.h"
+#include "sky/DataPaths.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 

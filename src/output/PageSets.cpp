@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "output/PageSets.h"
 
-#include "session/DataPaths.h"
+#include "sky/DataPaths.h"
 #include "session/clsIni.h"
 
 #include <QDir>

@@ -135,6 +135,11 @@ inline constexpr std::array<Step, 4> kMarriageWalk{{
     {"MatchPredi", "frmMarText", 0, StepKind::Text, false},
 }};
 
+inline constexpr std::array<Step, 2> kMuhurthaWalk{{
+    {"FrontPage", "frmMuhuCover", 0, StepKind::Form, false},
+    {"MuhuText", "frmMuhuText", 0, StepKind::Text, false},
+}};
+
 inline constexpr std::array<Step, 9> kVarshaphalaWalk{{
     {"FrontPage", "frmVarFront", 0, StepKind::Form, false},
     {"VarDasha", "frmVarshaDasha", 0, StepKind::Form, false},
@@ -189,6 +194,7 @@ QList<PrintStep> PrintWalkForMode(int progMode, bool extended)
     switch (progMode) {
     case 1: return steps(kHoroscopeWalk, extended);
     case 2: return steps(kMarriageWalk, extended);
+    case 3: return steps(kMuhurthaWalk, extended);
     case 4: return steps(kVarshaphalaWalk, extended);
     default: return {};
     }

@@ -72,8 +72,8 @@ inline constexpr std::array<Row, 4> kMarriage{{
 }};
 
 inline constexpr std::array<Row, 2> kMuhurtha{{
-    {"Cover Page", "MainPage", "", 0},
-    {"Muhurtha Analysis", "Analysis", "", 0},
+    {"Cover Page", "MainPage", "frmMuhuCover", 0},
+    {"Muhurtha Analysis", "Analysis", "frmMuhuText", 0},
 }};
 
 // The pages this program has, as the page registry declares them at start.

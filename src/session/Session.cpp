@@ -8,6 +8,7 @@ void SessionGlobals::ReleaseCharts()
     GalPlanets.reset();
     VarshaPlanets.reset();
     Marr.reset();
+    Muhurtha.reset();
 }
 
 SessionGlobals &Session()

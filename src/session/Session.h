@@ -3,6 +3,7 @@
 // The session's globals: the mode, the charts of the session and the two databases, with the
 // language's font sizes that every page reads. One instance, made at start.
 
+#include "muhurtha/clsMuhurtha.h"
 #include "sky/clsPlanets.h"
 
 #include <QSqlDatabase>
@@ -31,6 +32,8 @@ struct SessionGlobals
     std::unique_ptr<clsPlanets> GalPlanets;
     std::unique_ptr<clsPlanets> VarshaPlanets;
     int VarshaYear = 1;
+    // The electional search of Muhurtha mode, with its result.
+    std::unique_ptr<clsMuhurtha> Muhurtha;
     // RECOS.Dat: persons, atlas, page sets, themes.
     QSqlDatabase RecDB;
     // The chosen language's text database.
@@ -40,7 +43,7 @@ struct SessionGlobals
     // dropped with the charts.
     std::shared_ptr<clsMarr> Marr;
 
-    // Releases the four charts and the match made from them.
+    // Releases the four charts, the match made from them and the electional search.
     void ReleaseCharts();
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "text/TextDB.h"
 
-#include "session/DataPaths.h"
+#include "sky/DataPaths.h"
 #include "sky/Functions.h"
 #include "sky/MessageSink.h"
 

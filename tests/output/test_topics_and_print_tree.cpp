@@ -123,7 +123,11 @@ TEST(PrintTree, TheWalkKeepsItsOwnOrderWhateverTheTicks)
     EXPECT_EQ(steps[1].MakePage, 2);
     EXPECT_EQ(steps.last().Kind, StepKind::Text);
     EXPECT_TRUE(SelectedSteps(1, false, {}).isEmpty());
-    EXPECT_TRUE(PrintWalkForMode(3, false).isEmpty()) << "Muhurtha has no walk of its own";
+    // Muhurtha prints its cover page, then the analysis as text.
+    const QList<PrintStep> muhurtha = PrintWalkForMode(3, false);
+    ASSERT_EQ(muhurtha.size(), 2);
+    EXPECT_EQ(muhurtha[0].Key, "FrontPage");
+    EXPECT_EQ(muhurtha[1].Kind, StepKind::Text);
     EXPECT_FALSE(PrintKeys(1, false).contains("Nakshatrafala"));
     EXPECT_TRUE(PrintKeys(1, true).contains("Nakshatrafala"));
 }

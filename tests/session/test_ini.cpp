@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "session/DataPaths.h"
+#include "sky/DataPaths.h"
 #include "session/clsIni.h"
 
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 frmStatus::frmStatus(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::WindowStaysOnTopHint)
@@ -22,6 +23,14 @@ frmStatus::frmStatus(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::WindowS
     v->addWidget(lblMessage);
     v->addWidget(busy);
     v->addWidget(Proggy);
+    cmdCancel = new QPushButton(QStringLiteral("&Cancel"));
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->hide();
+    v->addWidget(cmdCancel, 0, Qt::AlignRight);
+    connect(cmdCancel, &QPushButton::clicked, this, [this] {
+        m_cancel = true;
+        lblMessage->setText(QStringLiteral("Stopping the search..."));
+    });
     setMinimumWidth(380);
 }
 
@@ -50,4 +59,5 @@ void frmStatus::MuhurthaStatus()
 {
     set(QStringLiteral("Looking for Muhurtha..."),
         QStringLiteral("Searching for the first best Muhurtha in the time range. Please wait..."));
+    cmdCancel->show();
 }

@@ -7,6 +7,7 @@
 
 class QLabel;
 class QProgressBar;
+class QPushButton;
 
 class frmStatus : public QDialog
 {
@@ -19,7 +20,11 @@ public:
     void MuhurthaStatus();
     QLabel *lblMessage;
     QProgressBar *Proggy;
+    // Shown by MuhurthaStatus only: asks the search to stop.
+    QPushButton *cmdCancel;
+    bool CancelRequested() const { return m_cancel; }
 
 private:
     void set(const QString &caption, const QString &message);
+    bool m_cancel = false;
 };

@@ -193,3 +193,23 @@ bool BirthPanel::eventFilter(QObject *watched, QEvent *event)
     }
     return QGroupBox::eventFilter(watched, event);
 }
+
+void BirthPanel::ShowPlaceOnly()
+{
+    auto *grid = qobject_cast<QGridLayout *>(layout());
+    if (!grid)
+        return;
+    for (int i = 0; i < grid->count(); ++i) {
+        int row = 0, col = 0, rows = 0, cols = 0;
+        grid->getItemPosition(i, &row, &col, &rows, &cols);
+        if (row > 1)
+            continue;
+        QLayoutItem *item = grid->itemAt(i);
+        if (QWidget *w = item->widget())
+            w->hide();
+        else if (QLayout *l = item->layout())
+            for (int j = 0; j < l->count(); ++j)
+                if (QWidget *w = l->itemAt(j)->widget())
+                    w->hide();
+    }
+}

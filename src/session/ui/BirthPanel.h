@@ -34,6 +34,8 @@ public:
     // optMF and optAMPM: two groups, so that choosing one never clears the other.
     QButtonGroup *grpMF = nullptr, *grpAMPM = nullptr;
 
+    // Hides the rows of the name, the date and the time: the panel then gives a place alone.
+    void ShowPlaceOnly();
     // Puts a widget on a row of its own below the fields.
     void addFooter(QWidget *w);
 

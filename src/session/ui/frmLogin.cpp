@@ -4,7 +4,7 @@
 #include "text/TextDB.h"
 
 #include "sky/AppSettings.h"
-#include "session/DataPaths.h"
+#include "sky/DataPaths.h"
 #include "session/Hints.h"
 #include "session/Languages.h"
 #include "session/Session.h"
@@ -102,6 +102,7 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     match->addWidget(boy);
     match->addWidget(gal);
     frmMatch->hide();
+    buildMuhurthaPanel();
 
     tbTools = new QToolBar;
     tbTools->setObjectName(QStringLiteral("tbTools"));
@@ -131,6 +132,8 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     cmdHoroscope = new QPushButton(QStringLiteral("&Horoscope"));
     cmdMatch = new QPushButton(QStringLiteral("&Marriage"));
     cmdVarshaphala = new QPushButton(QStringLiteral("&Varshaphala"));
+    cmdMuhurtha = new QPushButton(QStringLiteral("M&uhurtha"));
+    cmdMuhurtha->setObjectName(QStringLiteral("cmdMuhurtha"));
     cmdGenerate = new QPushButton(QStringLiteral("&Generate"));
     cmdOptions = new QPushButton(QStringLiteral("&Options"));
     cmdGenerate->setDefault(true);
@@ -146,7 +149,7 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     cmdUndoDelete->setObjectName(QStringLiteral("cmdUndoDelete"));
     cmdUndoDelete->setToolTip(QStringLiteral("Bring back the person deleted last."));
     cmdUndoDelete->hide();
-    for (QPushButton *b : {cmdHoroscope, cmdMatch, cmdVarshaphala, cmdGenerate, cmdOptions})
+    for (QPushButton *b : {cmdHoroscope, cmdMatch, cmdVarshaphala, cmdMuhurtha, cmdGenerate, cmdOptions})
         b->setMinimumWidth(110);
     cmdOptions->installEventFilter(this);
     cmbLangu->installEventFilter(this);
@@ -155,6 +158,7 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     modes->addWidget(cmdHoroscope);
     modes->addWidget(cmdMatch);
     modes->addWidget(cmdVarshaphala);
+    modes->addWidget(cmdMuhurtha);
     modes->addSpacing(16);
     modes->addWidget(new QLabel(QStringLiteral("Select Language")));
     modes->addWidget(cmbLangu);
@@ -165,6 +169,8 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     auto *fields = new QVBoxLayout;
     fields->addWidget(frmSingleGuy);
     fields->addWidget(frmMatch);
+    fields->addWidget(frmMuhu);
+    fields->addWidget(muhuPlace);
     fields->addStretch();
 
     auto *top = new QHBoxLayout;
@@ -180,12 +186,13 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
     connect(cmdHoroscope, &QPushButton::clicked, this, &frmLogin::cmdHoroscope_Click);
     connect(cmdMatch, &QPushButton::clicked, this, &frmLogin::cmdMatch_Click);
     connect(cmdVarshaphala, &QPushButton::clicked, this, &frmLogin::cmdVarshaphala_Click);
+    connect(cmdMuhurtha, &QPushButton::clicked, this, &frmLogin::cmdMuhurtha_Click);
     connect(cmdGenerate, &QPushButton::clicked, this, [this] { cmdGenerate_Click(); });
     connect(cmdOptions, &QPushButton::clicked, this, &frmLogin::optionsRequested);
     connect(single->cmdNowCast, &QToolButton::clicked, this, &frmLogin::cmdNowCast_Click);
     connect(single->cmdAddCity, &QToolButton::clicked, this, &frmLogin::cmdAdHorCity_Click);
     connect(cmdUndoDelete, &QPushButton::clicked, this, &frmLogin::UndoDelete);
-    for (BirthPanel *p : {single, boy, gal})
+    for (BirthPanel *p : {single, boy, gal, muhuPlace})
         wirePanel(p);
 
     // Lists and the remembered state.
@@ -195,12 +202,12 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
         QStringList countries;
         while (q.next())
             countries << q.value(0).toString();
-        for (BirthPanel *p : {single, boy, gal}) {
+        for (BirthPanel *p : {single, boy, gal, muhuPlace}) {
             const QSignalBlocker block(p->cmbCountry);
             p->cmbCountry->addItems(countries);
             p->cmbCountry->setCurrentText(QStringLiteral("India"));
         }
-        fillPlaces({single, boy, gal}, QStringLiteral("India"));
+        fillPlaces({single, boy, gal, muhuPlace}, QStringLiteral("India"));
     }
     m_languages = Languages::Offered(Languages::Load());
     for (const LanguageRow &l : m_languages)
@@ -229,6 +236,8 @@ frmLogin::frmLogin(QWidget *parent) : QWidget(parent)
         cmdMatch_Click();
     else if (mode == QLatin1String("Varsh"))
         cmdVarshaphala_Click();
+    else if (mode == QLatin1String("Muhu"))
+        cmdMuhurtha_Click();
     postHint(101);
 }
 
@@ -508,6 +517,8 @@ void frmLogin::saveStartMode(const QString &mode) { gendat().setValue(QStringLit
 void frmLogin::cmdHoroscope_Click()
 {
     frmMatch->hide();
+    frmMuhu->hide();
+    muhuPlace->hide();
     frmSingleGuy->show();
     frmSingleGuy->setTitle(QStringLiteral("Horoscope"));
     Session().ProgMode = 1;
@@ -517,6 +528,8 @@ void frmLogin::cmdHoroscope_Click()
 void frmLogin::cmdVarshaphala_Click()
 {
     frmMatch->hide();
+    frmMuhu->hide();
+    muhuPlace->hide();
     frmSingleGuy->show();
     frmSingleGuy->setTitle(QStringLiteral("Varsha Phala"));
     Session().ProgMode = 4;
@@ -526,6 +539,8 @@ void frmLogin::cmdVarshaphala_Click()
 void frmLogin::cmdMatch_Click()
 {
     frmSingleGuy->hide();
+    frmMuhu->hide();
+    muhuPlace->hide();
     frmMatch->show();
     Session().ProgMode = 2;
     for (BirthPanel *p : {boy, gal})
@@ -539,8 +554,10 @@ void frmLogin::cmdMatch_Click()
 bool frmLogin::ValidateEntry()
 {
     std::vector<EntryMessage> messages;
-    const std::vector<BirthPanel *> panels = Session().ProgMode == 2 ? std::vector<BirthPanel *>{boy, gal}
-                                                                     : std::vector<BirthPanel *>{single};
+    const int mode = Session().ProgMode;
+    const std::vector<BirthPanel *> panels = mode == 2   ? std::vector<BirthPanel *>{boy, gal}
+                                             : mode == 3 ? std::vector<BirthPanel *>{muhuPlace}
+                                                         : std::vector<BirthPanel *>{single};
     for (BirthPanel *p : panels)
         for (const EntryMessage &m : ::ValidateEntry(p->Fields()))
             messages.push_back(m);
@@ -570,6 +587,8 @@ void frmLogin::fillPerson(BirthPanel *p, clsPerson &person, int sex) const
 
 bool frmLogin::cmdGenerate_Click()
 {
+    if (Session().ProgMode == 3)
+        return generateMuhurtha();
     if (!ValidateEntry())
         return false;
     SessionGlobals &s = Session();
@@ -616,11 +635,17 @@ void frmLogin::FillPersonLists()
         const QSignalBlocker block(panels[i]->cmbName);
         panels[i]->cmbName->clear();
     }
+    const QString muhuBoy = cmbMuhuBoy->currentText(), muhuGal = cmbMuhuGal->currentText();
+    cmbMuhuBoy->clear();
+    cmbMuhuGal->clear();
     for (const auto &[name, sex] : store().PersonNames()) {
         const QSignalBlocker b1(single->cmbName), b2(boy->cmbName), b3(gal->cmbName);
         single->cmbName->addItem(name);
         (sex == 1 ? boy : gal)->cmbName->addItem(name);
+        (sex == 1 ? cmbMuhuBoy : cmbMuhuGal)->addItem(name);
     }
+    cmbMuhuBoy->setCurrentIndex(qMax(0, cmbMuhuBoy->findText(muhuBoy)));
+    cmbMuhuGal->setCurrentIndex(qMax(0, cmbMuhuGal->findText(muhuGal)));
     // Each name box keeps the name it showed, so that it still names the person of the fields.
     for (size_t i = 0; i < panels.size(); ++i) {
         QComboBox *box = panels[i]->cmbName;

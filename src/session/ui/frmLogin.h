@@ -8,7 +8,10 @@
 #include "sky/clsPerson.h"
 #include "session/ui/BirthPanel.h"
 
+#include "muhurtha/clsMuhurtha.h"
+
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QToolBar>
 #include <QWidget>
@@ -28,6 +31,7 @@ public:
     void cmdHoroscope_Click();
     void cmdMatch_Click();
     void cmdVarshaphala_Click();
+    void cmdMuhurtha_Click();
     // Validates, makes the session's charts and casts them; false when a field was refused.
     bool cmdGenerate_Click();
     void cmdNowCast_Click();
@@ -55,10 +59,18 @@ public:
     BirthPanel *single;
     BirthPanel *boy;
     BirthPanel *gal;
+    // Muhurtha mode: the acts, the span of days, the clock times, the couple of a marriage and
+    // the place (a panel that shows its place rows only).
+    QGroupBox *frmMuhu;
+    QListWidget *lstMuhu;
+    QLineEdit *txtMuhuFrom, *txtMuhuTo, *txtMuhuStart, *txtMuhuEnd;
+    QWidget *frmMuhuCouple;
+    QComboBox *cmbMuhuBoy, *cmbMuhuGal;
+    BirthPanel *muhuPlace;
     QGroupBox *frmSingleGuy;
     QWidget *frmMatch;
     QComboBox *cmbLangu;
-    QPushButton *cmdHoroscope, *cmdMatch, *cmdVarshaphala, *cmdGenerate, *cmdOptions;
+    QPushButton *cmdHoroscope, *cmdMatch, *cmdVarshaphala, *cmdMuhurtha, *cmdGenerate, *cmdOptions;
     QLabel *lblHints;
     QPushButton *cmdUndoDelete;
     QToolBar *tbTools;
@@ -72,6 +84,14 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    // The Muhurtha mode's part of Generate: its checks, the couple, the place chart and the search.
+    bool generateMuhurtha();
+    void buildMuhurthaPanel();
+    void muhuActChosen();
+    // The span's first day and start time into the place panel's hidden birth fields, which the
+    // zone history and Generate's place checks read.
+    void syncMuhuPlace();
+    std::vector<MuhuAct> m_acts;
     // The name must be there and the fields pass Generate's checks before a person is stored.
     bool checkBeforeStoring(const QString &name, const QString &title);
     std::optional<PersonRow> m_deleted;
