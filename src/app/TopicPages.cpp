@@ -10,6 +10,8 @@
 #include "strength/pages/frmAshtak.h"
 #include "strength/pages/frmBhav.h"
 #include "strength/pages/frmShadbala.h"
+#include "text/pages/ReadingPage.h"
+#include "text/pages/frmConj.h"
 #include "text/pages/frmForText.h"
 #include "yoga/pages/frmPrediYogas.h"
 
@@ -36,4 +38,9 @@ void RegisterTopicPages()
     page<frmPrediYogas>("frmPrediYogas");
     page<frmForText>("frmForText");
     page<frmSadeSati>("frmSadeSati");
+    page<frmConj>("frmConj");
+    page<frmConjPredi>("frmConjPredi");
+    page<frmNakshatra>("frmNakshatra");
+    page<frmGrahaFala>("frmGrahaFala");
+    page<frmBhavaFal>("frmBhavaFal");
 }
