@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// The catalogue's rules of vehicles and wealth: the lords of the 4th, 9th and 11th, the wealth of
+// the 2nd, 5th, 9th and 11th lords, and the riches of whole charts of signs.
+#include "yoga/clsYoga.h"
+
+#include "sky/clsPlanets.h"
+
+using P = YogaChart::Planet;
+
+// ---- vehicles ----
+
+bool clsYoga::Vahana1() const
+{
+    const int l1 = y.L(1), l4 = y.L(4);
+    return y.in(l1, {4, 9, 11}) || y.with(l1, l4) || y.with(l1, y.L(9)) || y.with(l1, y.L(11)) ||
+           (y.exalted(l4) && y.in(l4, {1, 4, 7, 10, 5, 9}));
+}
+bool clsYoga::Vahana2() const
+{
+    const bool strong = ownEx(P::Ve) || ownEx(P::Mo);
+    // The first branch asks Venus and the Moon to be weak and strong at once, so only the second counts.
+    return (!strong && strong && y.in(P::Mo, {2}) && y.in(P::Ve, {2})) ||
+           (strong && (y.from(P::Mo, {7, 3}, P::Ve) || y.from(P::Ve, {3}, P::Mo)));
+}
+bool clsYoga::Vahana3() const
+{
+    const int h4 = y.H(4);
+    return y.in(y.L(4), {1}) && y.in(y.L(9), {1}) &&
+           (y.in(P::Ju, {4}) || signFrom(h4, {5}, P::Ju) || signFrom(h4, {7}, P::Ju) || signFrom(h4, {9}, P::Ju));
+}
+bool clsYoga::Vahana4() const { return y.with(P::Ju, y.L(4)) && y.in(P::Ju, {1, 4, 5, 7, 9, 10}); }
+bool clsYoga::Vahana5() const { return ownEx(P::Ve) && y.in(P::Ve, {4}) && y.exalted(y.L(4)); }
+bool clsYoga::Vahana6() const { return ownEx(P::Ve) && y.L(4) == P::Ve && y.in(P::Ve, {9, 10, 11}); }
+bool clsYoga::Vahana7() const
+{
+    return gap(P::Mo, P::Su) >= 72 && ownEx(P::Mo) && y.L(4) == P::Mo && y.in(P::Mo, {9, 10, 11});
+}
+bool clsYoga::Vahana8() const
+{
+    // The last test always passes: Jupiter can't stand in four signs at once.
+    const int j = y.S(P::Ju);
+    return y.Lg() == 4 && y.S(P::Me) == 7 && y.S(P::Ve) == 7 && (j != 2 || j != 5 || j != 6 || j != 9);
+}
+bool clsYoga::Vahana9() const
+{
+    const bool juStrong = y.own(P::Ju) || clsPlanets::CheckIfExalted(P::Ju, y.Lg());
+    return (!juStrong && ownEx(P::Ju) && y.in(P::Ju, {4}) && ownEx(P::Ve) && ownEx(P::Sa) && y.in(P::Sa, {4})) ||
+           (juStrong && y.in(P::Ju, {4}) && ownEx(P::Ve) && y.in(P::Ve, {7}) && ownEx(P::Sa));
+}
+bool clsYoga::Vahana10() const { return y.in(y.L(4), {9}) && y.in(y.L(9), {4}); }
+bool clsYoga::Vahana11() const { return y.in(y.L(4), {11}) && y.in(y.L(11), {4}); }
+bool clsYoga::Vahana12() const { return y.in(y.L(4), {5}) && y.in(y.L(5), {4}); }
+bool clsYoga::Vahana13() const
+{
+    return y.in(y.L(4), {1}) && y.in(y.L(1), {4}) && (y.in(P::Ju, {1, 4, 7, 10, 5, 9}) || y.in(P::Ve, {1, 5, 7, 9}));
+}
+bool clsYoga::Vahana14() const { return y.in(y.L(5), {9}) && y.in(y.L(9), {10}); }
+bool clsYoga::Vahana15() const { return y.in(y.L(9), {9}) && y.in(y.L(1), {1}); }
+
+// ---- wealth by the lords ----
+
+bool clsYoga::DhanaYoga2() const { return y.in(y.L(2), {5}) && y.in(y.L(5), {2}); }
+bool clsYoga::DhanaYoga3() const { return y.in(y.L(2), {11}) && y.in(y.L(11), {2}); }
+bool clsYoga::DhanaYoga4() const { return y.in(y.L(5), {5}) && y.in(y.L(9), {9}); }
+bool clsYoga::DhanaYoga5() const
+{
+    const int l2 = y.L(2);
+    return y.with(l2, y.L(11)) && y.with(l2, y.L(5)) && y.with(l2, y.L(9)) && !y.with(l2, y.L(6)) && !y.with(l2, y.L(8)) &&
+           !y.with(l2, y.L(12));
+}
+bool clsYoga::DhanaYoga6() const
+{
+    // Each "not Mercury or not Jupiter" passes always; what is left is the 2nd lord and the pair together.
+    const auto neither = [](int l) { return l != P::Me || l != P::Ju; };
+    return (y.L(2) == P::Me || y.L(2) == P::Ju) && neither(y.L(6)) && neither(y.L(8)) && neither(y.L(12)) && y.with(P::Me, P::Ju);
+}
+bool clsYoga::DhanaYoga7() const { return y.in(y.L(11), {11}) && y.in(y.L(2), {2}) && y.in(y.L(1), {1}); }
+bool clsYoga::DhanaYoga8() const
+{
+    const int l2 = y.L(2);
+    return y.in(l2, {1}) && y.in(y.L(11), {1}) && !y.with(l2, y.L(6)) && !y.with(l2, y.L(8)) && !y.with(l2, y.L(12));
+}
+bool clsYoga::DhanaYoga11() const { return y.with(y.L(10), y.L(2)) && y.in(y.L(10), {1, 4, 5, 7, 9, 10}); }
+bool clsYoga::DhanaYoga13() const { return y.with(y.L(2), y.L(3)) && y.in(y.L(2), {1, 4, 7, 10}); }
+bool clsYoga::DhanaYoga14() const
+{
+    int n = 0;
+    for (int p = 1; p <= 9; ++p)
+        n += y.own(p) ? 1 : 0;
+    return n >= 4;
+}
+bool clsYoga::DhanaYoga15() const { return ownEx(y.L(2)) && y.in(y.L(2), {11, 10, 9}); }
+bool clsYoga::DhanaYoga18() const
+{
+    for (int h : {1, 4, 7, 10})
+        if (!(y.in(P::Ju, {h}) || y.in(P::Me, {h}) || y.in(P::Ve, {h}) || y.in(P::Mo, {h})))
+            return false;
+    return true;
+}
+bool clsYoga::DhanaYoga20() const
+{
+    return y.S(P::Me) == 4 && !y.in(P::Me, {6}) && !y.in(P::Me, {8}) && !y.in(P::Me, {12}) && y.in(P::Sa, {11});
+}
+bool clsYoga::DhanaYoga21() const { return y.own(y.L(5)) && y.in(P::Sa, {11}); }
+bool clsYoga::DhanaYoga22() const { return y.Lg() == 1 && y.S(P::Su) == 5 && y.in(P::Ju, {11}); }
+bool clsYoga::DhanaYoga23() const { return y.signIn(P::Ju, {9, 12}) && y.in(P::Mo, {5}); }
+bool clsYoga::DhanaYoga24() const { return y.Lg() == 5 && y.S(P::Ju) == 5 && y.S(P::Su) == 5 && y.S(P::Ma) == 5; }
+bool clsYoga::DhanaYoga25() const { return y.Lg() == 4 && y.S(P::Ju) == 4 && y.S(P::Mo) == 4 && y.S(P::Ma) == 4; }
+bool clsYoga::DhanaYoga26() const
+{
+    return y.signIn(P::As, {1, 8}) && y.in(P::Ma, {1}) && y.in(P::Sa, {1}) && y.in(P::Ve, {1}) && y.in(P::Me, {1});
+}
+bool clsYoga::DhanaYoga27() const { return y.signIn(P::As, {12, 9}) && y.in(P::Ma, {1}) && y.in(P::Mo, {1}) && y.in(P::Ju, {1}); }
+bool clsYoga::DhanaYoga28() const
+{
+    return y.signIn(P::As, {3, 6}) && y.in(P::Me, {1}) && (y.in(P::Ve, {1}) || y.from(P::As, {7}, P::Ve)) &&
+           (y.in(P::Sa, {1}) || y.from(P::As, {7, 3, 10}, P::Sa));
+}
+bool clsYoga::DhanaYoga29() const
+{
+    return y.signIn(P::As, {2, 7}) && y.in(P::Ve, {1}) && (y.in(P::Su, {1}) || y.from(P::As, {7}, P::Su)) &&
+           (y.in(P::Mo, {1}) || y.from(P::As, {7}, P::Mo));
+}
+bool clsYoga::DhanaYoga30() const
+{
+    return !y.in(P::Sa, {6}) && !y.in(P::Sa, {8}) && !y.in(P::Sa, {12}) && y.S(P::Sa) == 6 && y.S(P::Ma) == 6 &&
+           y.S(P::Ra) == 6 && y.S(P::Ve) == 6;
+}
+bool clsYoga::DhanaYoga32() const
+{
+    return y.in(y.L(1), {2}) && y.from(y.L(1), {5, 7, 9}, P::Ju) && y.in(y.L(11), {10}) && y.from(y.L(11), {5, 7, 9}, P::Ju);
+}
+bool clsYoga::DhanaYoga34() const { return (y.in(P::Ju, {2}) || kendra(P::Ju) || trikona(P::Ju)) && y.with(y.L(1), P::Ju); }
+bool clsYoga::DhanaYoga37() const { return y.in(y.L(11), {1}) && y.in(y.L(2), {11}) && y.in(y.L(1), {2}); }
+bool clsYoga::DhanaYoga47() const
+{
+    return y.in(P::Me, {2}) && y.with(P::Ve, P::Me) && y.in(P::Ju, {8}) && y.with(P::Ju, P::Mo) &&
+           (ownEx(P::Mo) || ownEx(P::Ve) || ownEx(P::Ju));
+}
+
+// ---- wealth by whole charts of signs ----
+
+namespace {
+// Sign of each named planet, then the Lagna's.
+bool at(const YogaChart &y, std::initializer_list<std::pair<int, int>> signs, int lagna)
+{
+    for (const auto &[p, s] : signs)
+        if (y.S(p) != s)
+            return false;
+    return y.Lg() == lagna;
+}
+} // namespace
+
+bool clsYoga::DhanaYoga48() const { return at(y, {{P::Ve, 2}, {P::Ma, 12}}, 10); }
+bool clsYoga::DhanaYoga49() const { return at(y, {{P::Ve, 7}, {P::Ma, 5}}, 3); }
+bool clsYoga::DhanaYoga50() const { return at(y, {{P::Me, 3}, {P::Ma, 1}, {P::Mo, 1}, {P::Ju, 1}}, 11); }
+bool clsYoga::DhanaYoga51() const { return at(y, {{P::Me, 6}, {P::Ma, 4}, {P::Mo, 4}, {P::Ju, 4}}, 2); }
+bool clsYoga::DhanaYoga52() const { return at(y, {{P::Su, 5}, {P::Sa, 11}, {P::Mo, 11}, {P::Ju, 11}}, 1); }
+bool clsYoga::DhanaYoga53() const { return at(y, {{P::Su, 4}, {P::Sa, 10}, {P::Mo, 4}}, 6); }
+bool clsYoga::DhanaYoga54() const { return at(y, {{P::Su, 5}, {P::Sa, 11}, {P::Mo, 5}}, 7); }
+bool clsYoga::DhanaYoga55() const { return at(y, {{P::Me, 3}, {P::Ju, 9}}, 5); }
+bool clsYoga::DhanaYoga56() const { return at(y, {{P::Me, 10}, {P::Ju, 12}}, 8); }
+bool clsYoga::DhanaYoga57() const { return at(y, {{P::Ma, 1}, {P::Ve, 7}}, 9); }
+bool clsYoga::DhanaYoga58() const { return at(y, {{P::Ma, 8}, {P::Ve, 2}}, 4); }
+bool clsYoga::DhanaYoga59() const { return at(y, {{P::Mo, 4}, {P::Sa, 10}}, 12); }
+bool clsYoga::DhanaYoga60() const
+{
+    return y.S(P::Mo) == 4 && y.signIn(P::Me, {10, 4}) && y.signIn(P::Ju, {10, 12, 8, 4}) && y.Lg() == 4;
+}
+bool clsYoga::DhanaYoga61() const
+{
+    return y.S(P::Ma) == 1 && y.signIn(P::Me, {1, 7}) && y.signIn(P::Ve, {1, 7}) && y.signIn(P::Sa, {1, 11, 7, 4}) && y.Lg() == 1;
+}
+bool clsYoga::DhanaYoga62() const
+{
+    return y.S(P::Ma) == 8 && y.signIn(P::Me, {2, 8}) && y.signIn(P::Ve, {2, 8}) && y.signIn(P::Sa, {6, 11, 8, 2}) && y.Lg() == 8;
+}
+bool clsYoga::DhanaYoga63() const
+{
+    return y.S(P::Me) == 3 && y.signIn(P::Sa, {1, 3, 6, 9}) && y.Lg() == 3 && y.signIn(P::Ju, {11, 3, 7, 9});
+}
+bool clsYoga::DhanaYoga64() const
+{
+    return y.S(P::Me) == 6 && y.signIn(P::Sa, {4, 12, 6, 9}) && y.Lg() == 6 && y.signIn(P::Ju, {2, 6, 10, 12});
+}
+bool clsYoga::DhanaYoga65() const
+{
+    return y.signIn(P::Me, {3, 9}) && y.signIn(P::Ma, {2, 3, 6, 9}) && y.Lg() == 9 && y.S(P::Ju) == 9;
+}
+bool clsYoga::DhanaYoga66() const
+{
+    return y.signIn(P::Me, {6, 12}) && y.signIn(P::Ma, {5, 12, 6, 9}) && y.Lg() == 12 && y.S(P::Ju) == 12;
+}
+bool clsYoga::DhanaYoga67() const
+{
+    return y.signIn(P::Me, {2, 8}) && y.signIn(P::Sa, {2, 12, 5, 8}) && y.Lg() == 2 && y.S(P::Ve) == 2;
+}
+bool clsYoga::DhanaYoga68() const
+{
+    return y.signIn(P::Me, {1, 7}) && y.signIn(P::Sa, {1, 10, 5, 7}) && y.Lg() == 7 && y.S(P::Ve) == 7;
+}
+bool clsYoga::DhanaYoga69() const
+{
+    return y.signIn(P::Ma, {4, 10, 3, 7}) && y.Lg() == 10 && y.signIn(P::Ju, {4, 10, 6, 2}) && y.S(P::Sa) == 10;
+}
+bool clsYoga::DhanaYoga70() const
+{
+    return y.signIn(P::Ma, {11, 5, 8, 4}) && y.Lg() == 11 && y.signIn(P::Ju, {11, 5, 7, 3}) && y.S(P::Sa) == 11;
+}
+bool clsYoga::DhanaYoga71() const
+{
+    return y.signIn(P::Ma, {11, 5, 2, 10}) && y.Lg() == 5 && y.signIn(P::Ju, {11, 5, 9, 1}) && y.S(P::Su) == 5;
+}
+
+// ---- riches ----
+
+bool clsYoga::NashtadravyaPrapti() const
+{
+    return y.Lg() == 10 && y.S(P::Mo) == 11 && y.chart().CountPlanetInSign(y.S(P::Mo)) == 1 && y.S(P::Me) != 5 &&
+           y.S(P::Su) != 5 && y.S(P::Ju) != 5 && y.S(P::Ju) != 3 && y.S(P::Ju) != 7;
+}
+bool clsYoga::Sampat1() const
+{
+    return kendra(y.L(1)) && y.with(y.L(1), P::Ju) && y.with(P::Ju, P::Ve) && y.with(P::Ju, P::Me);
+}
+bool clsYoga::Sampat2() const
+{
+    const int l1 = y.L(1);
+    return ownEx(l1) && (y.with(l1, P::Mo) || y.with(l1, P::Ju) || y.with(l1, P::Ve) || y.with(l1, P::Me) ||
+                         y.chart().PlanetAspectedByNatBenefic(l1));
+}
+bool clsYoga::Sampat5() const { return ownEx(y.L(1)) && y.in(y.L(1), {4, 7, 10}); }
+bool clsYoga::Sampat6() const
+{
+    return y.in(P::Su, {1}) && y.chart().PlanetAspectedByNatBenefic(P::Su) && y.in(y.L(1), {10});
+}
+bool clsYoga::Sampat8() const
+{
+    const auto any = [this](int h) {
+        return y.in(P::Ju, {h}) || y.in(P::Mo, {h}) || y.in(P::Me, {h}) || y.in(P::Ve, {h});
+    };
+    return !y.in(P::Ma, {5}) && !y.in(P::Su, {5}) && !y.in(P::Sa, {5}) && any(5) && any(11);
+}
+bool clsYoga::Sampat9() const { return y.Lg() == 1 && y.S(P::Ju) == 1 && y.S(P::Mo) == 10; }
