@@ -176,6 +176,23 @@ public:
     bool Garuda() const;
     bool Chandika() const;
     bool Parijatha() const;
+    bool JaiminiRY1() const;
+    bool JaiminiRY2() const;
+    bool JaiminiRY3() const;
+    bool JaiminiRY4() const;
+    bool JaiminiRY5() const;
+    bool JaiminiRY6() const;
+    bool JaiminiRY8() const;
+    bool JaiminiRY9() const;
+    bool JaiminiRY10() const;
+    bool JaiminiRY11() const;
+    bool JaiminiRY12() const;
+    bool JaiminiRY13() const;
+    bool JaiminiRY14() const;
+    bool JaiminiRY15() const;
+    bool JaiminiRY18() const;
+    bool JaiminiArishta1() const;
+    bool JaiminiArishta3() const;
     // The catalogue: vehicles, wealth, loss of wealth and riches.
     bool Vahana1() const;
     bool Vahana2() const;
@@ -243,11 +260,37 @@ public:
     bool DhanaYoga69() const;
     bool DhanaYoga70() const;
     bool DhanaYoga71() const;
+    bool Dhanahani1() const;
+    bool Dhanahani3() const;
+    bool Dhanahani4() const;
+    bool Dhanahani5() const;
+    bool Dhanahani13() const;
+    bool Dhanahani14() const;
+    bool Dhanahani15() const;
+    bool Dhanahani17() const;
+    bool Dhanahani18() const;
+    bool Dhanahani19() const;
+    bool Dhanahani20() const;
+    bool Dhanahani21() const;
+    bool Dhanahani22() const;
+    bool Dhanahani24() const;
+    bool Dhanahani26() const;
+    bool Dhanahani27() const;
+    bool Dhanahani28() const;
+    bool Dhanahani29() const;
+    bool Dhanahani30() const;
+    bool Dhanahani31() const;
+    bool Dhanahani32() const;
+    bool Dhanahani33() const;
+    bool Dhanahani34() const;
+    bool MahaDhanaYoga2() const;
     bool NashtadravyaPrapti() const;
     bool Sampat1() const;
     bool Sampat2() const;
+    bool Sampat3() const;
     bool Sampat5() const;
     bool Sampat6() const;
+    bool Sampat7() const;
     bool Sampat8() const;
     bool Sampat9() const;
     // The catalogue: family, body, mind, speech and fortune.
@@ -397,6 +440,12 @@ private:
     bool anyIn(std::initializer_list<int> planets, std::initializer_list<int> houses) const;
     // The lord of the 6th is planet, in a fixed or fiery sign of the 1st, 8th or 10th house.
     bool sixthLordWound(int planet) const;
+    // The combustion test as the rules call it (see the definition).
+    bool combustAsWritten(int p) const;
+    // One of the planets in the n-th sign from the Atma Karaka's.
+    bool fromKaraka(std::initializer_list<int> planets, int n) const;
+    // The sign holds or receives the aspect of Jupiter, Venus, Mercury or the Moon.
+    bool beneficOn(int sign) const;
     int occupied() const;
     // All of the planets 1..7 in the houses.
     bool allIn(std::initializer_list<int> houses) const;

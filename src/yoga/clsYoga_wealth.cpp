@@ -3,6 +3,7 @@
 // the 2nd, 5th, 9th and 11th lords, and the riches of whole charts of signs.
 #include "yoga/clsYoga.h"
 
+#include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 
 using P = YogaChart::Planet;
@@ -242,3 +243,147 @@ bool clsYoga::Sampat8() const
     return !y.in(P::Ma, {5}) && !y.in(P::Su, {5}) && !y.in(P::Sa, {5}) && any(5) && any(11);
 }
 bool clsYoga::Sampat9() const { return y.Lg() == 1 && y.S(P::Ju) == 1 && y.S(P::Mo) == 10; }
+
+// ---- loss of wealth ----
+
+bool clsYoga::combustAsWritten(int p) const
+{
+    // The rules hand the planet's longitude where the planet goes and its number where its
+    // longitude goes; outside the planets 2..7 the test answers Empty, read as no.
+    return clsPlanets::CheckIfCombust(static_cast<int>(y.lon(p)), p, y.lon(P::Su)).value_or(false);
+}
+
+bool clsYoga::Dhanahani1() const
+{
+    const int l2 = y.L(2);
+    return y.S(P::Mo) == 1 && y.S(P::Su) == 9 && y.S(P::Ve) == 10 && y.S(P::Sa) == 11 &&
+           (y.chart().PlanetAspectedByNatMalefic(l2) || y.in(P::Sa, {2}) || y.with(l2, P::Sa) || y.in(P::Ke, {2}) ||
+            y.with(l2, P::Ke));
+}
+bool clsYoga::Dhanahani3() const
+{
+    const clsPlanets &c = y.chart();
+    const int l1 = y.L(1), l2 = y.L(2);
+    const bool loss = (y.in(P::Me, {12}) || y.in(l2, {12})) && (y.in(P::Su, {12}) || y.debilitated(P::Su));
+    const bool firstHit = c.PlanetAspectedByNatMalefic(l1) || y.with(l1, P::Sa) || y.with(l1, P::Ke);
+    return (!firstHit && (c.PlanetAspectedByNatMalefic(l2) || y.with(l2, P::Sa) || y.with(l2, P::Ke)) && loss) ||
+           (firstHit && loss);
+}
+bool clsYoga::Dhanahani4() const
+{
+    return y.in(y.L(11), {12}) && y.in(y.L(12), {2}) && (y.in(y.L(2), {6, 8, 12}) || y.debilitated(y.L(2)));
+}
+bool clsYoga::Dhanahani5() const
+{
+    return y.in(y.L(2), {6}) && anyIn({P::Ma, P::Sa, P::Ra, P::Ke}, {6}) && (y.in(P::Su, {6}) || y.debilitated(P::Su));
+}
+bool clsYoga::Dhanahani13() const
+{
+    const int n12 = navLord(y.L(12));
+    return y.with(n12, y.L(2)) || sees(n12, navLord(y.L(2)));
+}
+bool clsYoga::Dhanahani14() const
+{
+    if (y.S(P::Su) != 7 || !kendra(P::Su))
+        return false;
+    for (int p = 2; p <= 9; ++p)
+        if (y.with(p, P::Su))
+            return false;
+    return true;
+}
+bool clsYoga::Dhanahani15() const
+{
+    const int l11 = y.L(11), l12 = y.L(12);
+    return (y.in(P::Sa, {11}) || y.with(P::Sa, l11)) && (y.in(P::Ke, {11}) || y.with(P::Ke, l11)) &&
+           (y.in(P::Sa, {12}) || y.with(P::Sa, l12)) && (y.in(P::Ke, {12}) || y.with(P::Ke, l12));
+}
+bool clsYoga::Dhanahani17() const
+{
+    // The Moon in the 2nd is a planet there, which the first term forbids.
+    return y.chart().CountPlanetInSign(y.H(2)) == 0 && gap(P::Su, P::Mo) <= 72 && sees(P::Mo, P::Me) && y.in(P::Mo, {2});
+}
+bool clsYoga::Dhanahani18() const
+{
+    return anyIn({y.L(6), y.L(8), y.L(12)}, {2}) && anyIn({y.L(5), y.L(9)}, {2}) &&
+           y.chart().CountPlanetInSign(y.H(2)) >= 2 && anyIn({P::Ve, P::Mo}, {8});
+}
+bool clsYoga::Dhanahani19() const
+{
+    const int l8 = y.L(8);
+    return y.in(l8, {2}) && y.in(P::Ma, {2}) &&
+           (combustAsWritten(l8) || combustAsWritten(P::Ma) || y.in(P::Ke, {2}) || y.in(P::Sa, {2}));
+}
+bool clsYoga::Dhanahani20() const { return y.in(y.L(1), {8}) && y.in(y.L(8), {2, 7}); }
+bool clsYoga::Dhanahani21() const
+{
+    // The lord of the 1st in the 6th and in the 2nd or 7th at once: never.
+    return y.in(y.L(6), {1}) && y.in(y.L(1), {6}) && y.in(y.L(1), {2, 7});
+}
+bool clsYoga::Dhanahani22() const
+{
+    const int l2 = y.L(2), l7 = y.L(7);
+    return y.in(P::Su, {1}) && y.in(P::Mo, {1}) &&
+           (sees(P::Mo, l7) || sees(P::Mo, l2) || y.with(P::Mo, l2) || y.with(P::Mo, l7));
+}
+bool clsYoga::Dhanahani24() const
+{
+    return y.in(y.L(9), {12}) && y.in(y.L(12), {2}) && y.chart().CountPlanetInSign(y.H(3)) >= 2;
+}
+bool clsYoga::Dhanahani26() const { return y.with(P::Su, P::Mo) && navSign(P::Su) == 4 && navSign(P::Mo) == 5; }
+bool clsYoga::Dhanahani27() const
+{
+    int fallen = 0;
+    for (int p = 1; p <= 9; ++p)
+        fallen += y.debilitated(p) ? 1 : 0;
+    return fallen >= 3 && y.S(P::Su) == 11 && y.with(P::Su, P::Mo) && navSign(P::Ve) == 6;
+}
+bool clsYoga::Dhanahani28() const
+{
+    return y.S(P::Me) == 12 && y.S(P::Mo) == 8 && y.S(P::Ma) == 4 && y.S(P::Sa) == 1 && y.S(P::Ve) == 10;
+}
+bool clsYoga::Dhanahani29() const { return y.S(P::Su) == 7 && y.in(P::Su, {5, 9}) && y.in(P::Ma, {8}); }
+bool clsYoga::Dhanahani30() const
+{
+    const int l8 = y.L(8);
+    const clsPlanets &c = y.chart();
+    return (withAny(l8, {P::Su, P::Ma, P::Sa, P::Ra, P::Ke}) || c.PlanetAspectedByNatMalefic(l8)) &&
+           !withAny(l8, {P::Mo, P::Ju, P::Me, P::Ve}) && !c.PlanetAspectedByNatBenefic(l8);
+}
+bool clsYoga::Dhanahani31() const
+{
+    const int l8 = y.L(8);
+    bool before = false, after = false;
+    for (int m : {P::Su, P::Ma, P::Sa, P::Ra, P::Ke}) {
+        before = before || y.from(m, {12}, l8);
+        after = after || y.from(m, {2}, l8);
+    }
+    for (int b : {P::Mo, P::Ju, P::Me, P::Ve})
+        if (y.from(b, {12, 2}, l8))
+            return false;
+    return before && after;
+}
+bool clsYoga::Dhanahani32() const { return y.S(P::Su) == 2 && y.S(P::Mo) == 12 && y.S(P::Sa) == 1 && y.S(P::Ma) == 4; }
+bool clsYoga::Dhanahani33() const { return y.in(y.L(9), {12}) && kendra(P::Sa); }
+bool clsYoga::Dhanahani34() const
+{
+    return allIn({1, 7, 12}) && y.countIn({1}) >= 1 && y.countIn({7}) >= 1 && y.countIn({12}) >= 1;
+}
+
+// ---- great wealth and fortune ----
+
+bool clsYoga::MahaDhanaYoga2() const
+{
+    for (int h : {2, 9, 11})
+        if (!ownEx(y.L(h)) || !kendra(y.L(h)))
+            return false;
+    return true;
+}
+bool clsYoga::Sampat3() const
+{
+    return y.with(y.L(2), P::Ju) && (y.in(P::Ju, {2}) || kendra(P::Ju)) && !combustAsWritten(P::Ju) && !y.debilitated(P::Ju);
+}
+bool clsYoga::Sampat7() const
+{
+    return y.with(y.L(1), P::Ju) && (y.in(P::Ju, {2}) || trikona(P::Ju) || kendra(P::Ju)) && !combustAsWritten(P::Ju) &&
+           !y.debilitated(P::Ju);
+}
