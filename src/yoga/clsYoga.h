@@ -216,6 +216,7 @@ public:
     bool DhanaYoga6() const;
     bool DhanaYoga7() const;
     bool DhanaYoga8() const;
+    bool DhanaYoga9() const;
     bool DhanaYoga11() const;
     bool DhanaYoga13() const;
     bool DhanaYoga14() const;
@@ -264,6 +265,8 @@ public:
     bool Dhanahani3() const;
     bool Dhanahani4() const;
     bool Dhanahani5() const;
+    bool Dhanahani7() const;
+    bool Dhanahani8() const;
     bool Dhanahani13() const;
     bool Dhanahani14() const;
     bool Dhanahani15() const;
@@ -356,6 +359,7 @@ public:
     bool Durmukha1() const;
     bool Vagmi1() const;
     bool Vagmi2() const;
+    bool YuddhaPashchat() const;
     bool Satkathadi() const;
     bool TeevraBuddhi() const;
     bool NavaLakshmi() const;

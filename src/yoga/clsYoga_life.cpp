@@ -368,3 +368,8 @@ bool clsYoga::NavaLakshmi() const
     return y.in(y.L(1), {11}) && y.in(y.L(9), {9}) && kendra(y.L(11)) && sees(y.L(1), y.L(11));
 }
 bool clsYoga::Koteesha() const { return y.exalted(navLord(P::As)) && y.exalted(y.L(9)) && ownEx(y.L(11)); }
+bool clsYoga::YuddhaPashchat() const
+{
+    const int l3 = y.L(3), n = navSign(l3);
+    return y.signIn(l3, {2, 5, 8, 11}) && (n == 11 || n == 8 || n == 5 || n == 2) && !y.chart().SashtiAmshaBenefic(l3);
+}

@@ -387,3 +387,22 @@ bool clsYoga::Sampat7() const
     return y.with(y.L(1), P::Ju) && (y.in(P::Ju, {2}) || trikona(P::Ju) || kendra(P::Ju)) && !combustAsWritten(P::Ju) &&
            !y.debilitated(P::Ju);
 }
+
+// ---- the rules that read the sixtieth parts ----
+
+bool clsYoga::DhanaYoga9() const
+{
+    return y.in(y.L(1), {2}) && y.in(y.L(11), {10}) && clsPlanets::PlanetBenefic(navLord(y.L(2)));
+}
+bool clsYoga::Dhanahani7() const
+{
+    const clsPlanets &c = y.chart();
+    return y.with(y.L(10), y.L(11)) && y.with(y.L(1), y.L(11)) && !c.SashtiAmshaBenefic(y.L(10)) &&
+           !c.SashtiAmshaBenefic(y.L(1));
+}
+bool clsYoga::Dhanahani8() const
+{
+    const clsPlanets &c = y.chart();
+    const auto afflicted = [&](int l) { return !y.exalted(l) && !y.own(l) && sees(l, P::Ma) && !c.SashtiAmshaBenefic(l); };
+    return afflicted(y.L(2)) && afflicted(y.L(11));
+}
