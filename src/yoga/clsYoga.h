@@ -218,10 +218,14 @@ public:
     bool DhanaYoga8() const;
     bool DhanaYoga9() const;
     bool DhanaYoga11() const;
+    bool DhanaYoga12() const;
     bool DhanaYoga13() const;
     bool DhanaYoga14() const;
     bool DhanaYoga15() const;
+    bool DhanaYoga16() const;
+    bool DhanaYoga17() const;
     bool DhanaYoga18() const;
+    bool DhanaYoga19() const;
     bool DhanaYoga20() const;
     bool DhanaYoga21() const;
     bool DhanaYoga22() const;
@@ -234,8 +238,16 @@ public:
     bool DhanaYoga29() const;
     bool DhanaYoga30() const;
     bool DhanaYoga32() const;
+    bool DhanaYoga33() const;
     bool DhanaYoga34() const;
     bool DhanaYoga37() const;
+    bool DhanaYoga39() const;
+    bool DhanaYoga40() const;
+    bool DhanaYoga41() const;
+    bool DhanaYoga42() const;
+    bool DhanaYoga43() const;
+    bool DhanaYoga44() const;
+    bool DhanaYoga45() const;
     bool DhanaYoga47() const;
     bool DhanaYoga48() const;
     bool DhanaYoga49() const;
@@ -262,6 +274,7 @@ public:
     bool DhanaYoga70() const;
     bool DhanaYoga71() const;
     bool Dhanahani1() const;
+    bool Dhanahani2() const;
     bool Dhanahani3() const;
     bool Dhanahani4() const;
     bool Dhanahani5() const;
@@ -286,16 +299,20 @@ public:
     bool Dhanahani32() const;
     bool Dhanahani33() const;
     bool Dhanahani34() const;
+    bool MahaDhanaYoga1() const;
     bool MahaDhanaYoga2() const;
     bool NashtadravyaPrapti() const;
     bool Sampat1() const;
     bool Sampat2() const;
     bool Sampat3() const;
+    bool Sampat4() const;
     bool Sampat5() const;
     bool Sampat6() const;
     bool Sampat7() const;
     bool Sampat8() const;
     bool Sampat9() const;
+    bool Sampat11() const;
+    bool Sampat12() const;
     // The catalogue: family, body, mind, speech and fortune.
     bool Dattaputra() const;
     bool Vatha() const;
@@ -352,13 +369,23 @@ public:
     bool Dehashthoulya3() const;
     bool EkBhagini() const;
     bool BahuSahodara() const;
+    bool SwaveeryaDhana1() const;
     bool SwaveeryaDhana2() const;
     bool BalyaDhana() const;
     bool BhatriMoolatDhana1() const;
+    bool BhatriMoolatDhana2() const;
+    bool PutraMoolatDhana() const;
+    bool ShatruMoolatDhana() const;
     bool Sumukh1() const;
+    bool Sumukh2() const;
     bool Durmukha1() const;
+    bool BhojanaSukhya() const;
     bool Vagmi1() const;
     bool Vagmi2() const;
+    bool Vagmi3() const;
+    bool Parihasaka() const;
+    bool Annadana() const;
+    bool YuddhaPraveena() const;
     bool YuddhaPashchat() const;
     bool Satkathadi() const;
     bool TeevraBuddhi() const;
@@ -450,6 +477,12 @@ private:
     bool fromKaraka(std::initializer_list<int> planets, int n) const;
     // The sign holds or receives the aspect of Jupiter, Venus, Mercury or the Moon.
     bool beneficOn(int sign) const;
+    // How many of the sixteen divisions put p in its own sign.
+    int gopuram(int p) const;
+    // p is 5th, 7th or 9th from Jupiter, or 7th from Venus, Mercury or the Moon.
+    bool beneficView(int p) const;
+    // The 2nd lord shares a sign with one of the others or casts the sign test on it.
+    bool secondLordMeets(std::initializer_list<int> others) const;
     int occupied() const;
     // All of the planets 1..7 in the houses.
     bool allIn(std::initializer_list<int> houses) const;

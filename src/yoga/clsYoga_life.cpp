@@ -373,3 +373,51 @@ bool clsYoga::YuddhaPashchat() const
     const int l3 = y.L(3), n = navSign(l3);
     return y.signIn(l3, {2, 5, 8, 11}) && (n == 11 || n == 8 || n == 5 || n == 2) && !y.chart().SashtiAmshaBenefic(l3);
 }
+
+// ---- the rules of speech and riches that read the Gopuramsa count ----
+
+bool clsYoga::SwaveeryaDhana1() const
+{
+    const int l1 = y.L(1);
+    return kendra(l1) && y.with(l1, P::Ju) && !y.debilitated(P::Ju) && !combustAsWritten(P::Ju) && gopuram(y.L(2)) == 13 &&
+           ownEx(l1);
+}
+bool clsYoga::BhatriMoolatDhana2() const
+{
+    return y.in(y.L(3), {2}) && y.in(P::Ju, {2}) && (y.with(P::Ju, y.L(1)) || sees(P::Ju, y.L(1))) && gopuram(y.L(1)) == 13;
+}
+bool clsYoga::PutraMoolatDhana() const
+{
+    return y.with(y.L(2), y.L(5)) && y.with(P::Ju, y.L(2)) && gopuram(y.L(1)) == 13;
+}
+bool clsYoga::ShatruMoolatDhana() const
+{
+    return y.with(y.L(2), y.L(6)) && y.with(P::Ma, y.L(2)) && gopuram(y.L(1)) == 13;
+}
+bool clsYoga::Sumukh2() const
+{
+    return kendra(y.L(2)) && ownEx(y.L(2)) && gopuram(YogaChart::lord(y.S(y.L(2)))) == 4;
+}
+bool clsYoga::BhojanaSukhya() const
+{
+    const int l2 = y.L(2);
+    return (gopuram(l2) == 13 || ownEx(l2)) && (sees(l2, P::Ve) || sees(l2, P::Ju));
+}
+bool clsYoga::Vagmi3() const
+{
+    const int l2 = y.L(2);
+    return kendra(l2) && gopuram(l2) == 6 &&
+           (y.with(l2, P::Ju) || y.with(l2, P::Ve) || sees(l2, P::Ju) || sees(l2, P::Ve) || gopuram(P::Ju) == 5 ||
+            gopuram(P::Ve) == 5);
+}
+bool clsYoga::Parihasaka() const
+{
+    const int n = navLord(P::Su);
+    return (gopuram(n) == 13 || ownEx(n)) && y.in(n, {2});
+}
+bool clsYoga::Annadana() const
+{
+    const int l2 = y.L(2);
+    return gopuram(l2) == 13 && (y.with(l2, P::Ju) || sees(l2, P::Ju)) && (y.with(l2, P::Me) || sees(l2, P::Me));
+}
+bool clsYoga::YuddhaPraveena() const { return gopuram(YogaChart::lord(navSign(y.L(3)))) == 5; }

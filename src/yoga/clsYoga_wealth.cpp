@@ -406,3 +406,74 @@ bool clsYoga::Dhanahani8() const
     const auto afflicted = [&](int l) { return !y.exalted(l) && !y.own(l) && sees(l, P::Ma) && !c.SashtiAmshaBenefic(l); };
     return afflicted(y.L(2)) && afflicted(y.L(11));
 }
+
+// ---- the rules that read the Gopuramsa count of the sixteen divisions ----
+
+int clsYoga::gopuram(int p) const { return y.chart().PlanetGopuramsa(p); }
+
+// The lord of the 1st, 10th, ... through its navamsha lord, which a benefic aspects by sign.
+bool clsYoga::beneficView(int p) const
+{
+    return y.from(p, {7, 5, 9}, P::Ju) || y.from(p, {7}, P::Ve) || y.from(p, {7}, P::Me) || y.from(p, {7}, P::Mo);
+}
+
+bool clsYoga::DhanaYoga12() const { return gopuram(y.L(2)) == 5; }
+bool clsYoga::DhanaYoga16() const
+{
+    const int n = navLord(y.L(1));
+    return gopuram(n) == 13 && beneficView(n);
+}
+bool clsYoga::DhanaYoga17() const
+{
+    const int n = navLord(y.L(10));
+    return gopuram(n) == 13 && beneficView(n);
+}
+bool clsYoga::DhanaYoga19() const
+{
+    return gopuram(navLord(y.L(1))) == 13 && gopuram(navLord(y.L(2))) == 13 && gopuram(navLord(y.L(11))) == 13;
+}
+bool clsYoga::DhanaYoga33() const { return y.in(P::Ve, {2, 12}) && y.in(P::Ju, {2}) && gopuram(y.L(1)) == 13; }
+bool clsYoga::DhanaYoga39() const
+{
+    const int h3 = y.H(3), l3 = y.L(3);
+    return y.in(y.L(1), {3}) && y.in(y.L(2), {3}) &&
+           (y.in(P::Ju, {3}) || signFrom(h3, {7, 5, 9}, P::Ju) || y.in(P::Su, {3}) || signFrom(h3, {7}, P::Su) ||
+            y.in(P::Ma, {3}) || signFrom(h3, {7, 4, 8}, P::Ma)) &&
+           gopuram(l3) == 13 && (y.in(l3, {3}) || y.chart().CheckIfPlanetAspects(y.L(1), l3));
+}
+// The 2nd lord joins or aspects, by the sign test as the rules call it, one of the others.
+bool clsYoga::secondLordMeets(std::initializer_list<int> others) const
+{
+    const int l2 = y.L(2);
+    for (int q : others)
+        if (y.with(l2, q) || y.chart().CheckIfPlanetAspects(l2, q))
+            return true;
+    return false;
+}
+bool clsYoga::DhanaYoga40() const { return secondLordMeets({y.L(4)}) && gopuram(y.L(4)) == 13; }
+bool clsYoga::DhanaYoga41() const { return secondLordMeets({y.L(8)}) && gopuram(y.L(8)) == 13; }
+bool clsYoga::DhanaYoga42() const
+{
+    return secondLordMeets({y.L(5), P::Ju}) && (gopuram(y.L(1)) == 13 || gopuram(y.L(2)) == 13);
+}
+bool clsYoga::DhanaYoga43() const { return secondLordMeets({y.L(6), P::Ma}) && gopuram(y.L(2)) == 13; }
+bool clsYoga::DhanaYoga44() const { return secondLordMeets({y.L(7), P::Ve}) && gopuram(y.L(2)) == 13; }
+bool clsYoga::DhanaYoga45() const
+{
+    // The first branch asks the 2nd lord to meet the 10th lord or Mercury and not to: only the second counts.
+    const bool meets = secondLordMeets({y.L(10), P::Me});
+    return (!meets && meets && gopuram(P::Su) == 13 && y.in(P::Su, {4})) || (meets && gopuram(y.L(2)) == 13);
+}
+bool clsYoga::Dhanahani2() const
+{
+    const int l12 = y.L(12);
+    return (y.with(l12, P::Ke) || y.with(l12, P::Sa)) && y.S(l12) == Norm12(y.chart().KarakamsaLagna() + 8);
+}
+bool clsYoga::MahaDhanaYoga1() const { return DhanaYoga18() && (gopuram(y.L(2)) == 5 || gopuram(y.L(2)) == 6); }
+bool clsYoga::Sampat4() const { return gopuram(P::Su) == 7 && ownEx(y.L(1)); }
+bool clsYoga::Sampat11() const { return gopuram(P::Ju) == 5 && gopuram(P::Ve) == 4 && gopuram(y.L(2)) == 9; }
+bool clsYoga::Sampat12() const
+{
+    const int l2 = y.L(2);
+    return (y.with(l2, P::Ju) || sees(l2, P::Ju)) && (gopuram(l2) == 6 || gopuram(l2) == 5);
+}
