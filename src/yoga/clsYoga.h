@@ -237,9 +237,12 @@ public:
     bool DhanaYoga28() const;
     bool DhanaYoga29() const;
     bool DhanaYoga30() const;
+    bool DhanaYoga31() const;
     bool DhanaYoga32() const;
     bool DhanaYoga33() const;
     bool DhanaYoga34() const;
+    bool DhanaYoga35() const;
+    bool DhanaYoga36() const;
     bool DhanaYoga37() const;
     bool DhanaYoga39() const;
     bool DhanaYoga40() const;
@@ -371,6 +374,7 @@ public:
     bool BahuSahodara() const;
     bool SwaveeryaDhana1() const;
     bool SwaveeryaDhana2() const;
+    bool SwaveeryaDhana3() const;
     bool BalyaDhana() const;
     bool BhatriMoolatDhana1() const;
     bool BhatriMoolatDhana2() const;
@@ -386,6 +390,7 @@ public:
     bool Parihasaka() const;
     bool Annadana() const;
     bool YuddhaPraveena() const;
+    bool YuddhaPoorvat() const;
     bool YuddhaPashchat() const;
     bool Satkathadi() const;
     bool TeevraBuddhi() const;

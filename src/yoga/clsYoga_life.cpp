@@ -421,3 +421,18 @@ bool clsYoga::Annadana() const
     return gopuram(l2) == 13 && (y.with(l2, P::Ju) || sees(l2, P::Ju)) && (y.with(l2, P::Me) || sees(l2, P::Me));
 }
 bool clsYoga::YuddhaPraveena() const { return gopuram(YogaChart::lord(navSign(y.L(3)))) == 5; }
+bool clsYoga::SwaveeryaDhana3() const
+{
+    const int l1 = y.L(1), l2 = y.L(2);
+    const clsPlanets &c = y.chart();
+    bool besideExalted = false;
+    for (int p = 1; p <= 9; ++p)
+        besideExalted = besideExalted || (p != l2 && y.exalted(p) && y.with(l2, p));
+    return (c.PlanetInTrikona(l2, l1) || c.PlanetInKendra(l2, l1)) &&
+           (l2 == P::Ju || l2 == P::Mo || l2 == P::Me || l2 == P::Ve) && (c.CheckHighestExaltDeg(l2) || besideExalted);
+}
+bool clsYoga::YuddhaPoorvat() const
+{
+    // "S(L3) or ...": a sign number is never 0, so the last group always passes.
+    return y.chart().CountPlanetInSign(y.H(3)) >= 2 && y.exalted(y.L(3));
+}

@@ -477,3 +477,28 @@ bool clsYoga::Sampat12() const
     const int l2 = y.L(2);
     return (y.with(l2, P::Ju) || sees(l2, P::Ju)) && (gopuram(l2) == 6 || gopuram(l2) == 5);
 }
+
+// ---- wealth through the navamsha lords ----
+
+bool clsYoga::DhanaYoga31() const
+{
+    const auto good = [this](int l) {
+        const int n = navLord(l);
+        return (n == P::Mo || n == P::Me || n == P::Ve || n == P::Ju) && y.from(n, {5, 7, 9}, P::Ju);
+    };
+    return good(y.L(1)) && good(y.L(2));
+}
+bool clsYoga::DhanaYoga35() const
+{
+    // The navamsha lord's number stands where the aspect test takes a sign.
+    const int l2 = y.L(2);
+    return y.with(l2, y.L(9)) && kendra(l2) && y.chart().CheckIfPlanetAspects(l2, navLord(y.L(1)));
+}
+bool clsYoga::DhanaYoga36() const
+{
+    const int n1 = navLord(y.L(1)), n2 = navLord(y.L(2)), n11 = navLord(y.L(11));
+    for (int p : {P::Su, P::Ma, P::Sa})
+        if (y.in(p, {1, 2, 11}) && ownEx(p) && (sees(n1, p) || sees(n2, p) || sees(n11, p)))
+            return true;
+    return false;
+}
