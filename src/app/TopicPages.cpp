@@ -3,16 +3,16 @@
 
 #include "cli/MatchCommand.h"
 #include "dasha/pages/frmVimsot.h"
-#include "muhurtha/pages/frmHoroReckoner.h"
-#include "muhurtha/pages/frmSadeSati.h"
 #include "marriage/pages/frmMarCover.h"
 #include "marriage/pages/frmMarFront.h"
 #include "marriage/pages/frmMarScore.h"
 #include "marriage/pages/frmMarText.h"
-#include "output/PrintTree.h"
-#include "output/ui/PdfCommand.h"
+#include "muhurtha/pages/frmHoroReckoner.h"
 #include "muhurtha/pages/frmMuhuCover.h"
 #include "muhurtha/pages/frmMuhuText.h"
+#include "muhurtha/pages/frmSadeSati.h"
+#include "output/PrintTree.h"
+#include "output/ui/PdfCommand.h"
 #include "output/ui/TopicPage.h"
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
@@ -20,6 +20,8 @@
 #include "strength/pages/frmAshtak.h"
 #include "strength/pages/frmBhav.h"
 #include "strength/pages/frmShadbala.h"
+#include "text/pages/ReadingPage.h"
+#include "text/pages/frmConj.h"
 #include "text/pages/frmForText.h"
 #include "varsha/pages/VarshaTextPages.h"
 #include "varsha/pages/frmVarBalas.h"
@@ -74,4 +76,9 @@ void RegisterTopicPages()
     page<frmVarPlHText>("frmVarPlHText");
     page<frmMuhuCover>("frmMuhuCover");
     page<frmMuhuText>("frmMuhuText");
+    page<frmConj>("frmConj");
+    page<frmConjPredi>("frmConjPredi");
+    page<frmNakshatra>("frmNakshatra");
+    page<frmGrahaFala>("frmGrahaFala");
+    page<frmBhavaFal>("frmBhavaFal");
 }

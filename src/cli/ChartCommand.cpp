@@ -9,6 +9,7 @@
 #include "sky/SunEvents.h"
 #include "strength/clsShadBala.h"
 #include "yoga/CheckYogas.h"
+#include "yoga/clsYoga.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -140,6 +141,7 @@ QJsonObject ChartCastJson(const clsPlanets &chart)
     for (const QString &key : CheckYogas::NameKeys(CheckYogas::ScanYogas(chart)))
         yogas.append(key);
     o.insert(QStringLiteral("yogas"), yogas);
+    o.insert(QStringLiteral("catalogue"), QJsonArray::fromStringList(clsYoga(chart).CatalogueHolds()));
     o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
     return o;
 }

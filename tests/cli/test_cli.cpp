@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "cli/ChartCommand.h"
 #include "support/TestSupport.h"
+#include "yoga/clsYoga.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -275,4 +276,24 @@ TEST(CommandLine, JsonGrowsWithTheSunBhavasPanchangAndDivisions)
     EXPECT_EQ(vargas[1].toArray()[1].toInt(), 4);  // the Sun in the rasi: Cancer
     EXPECT_EQ(vargas[1].toArray()[7].toInt(), 6);  // the Moon: Virgo
     EXPECT_EQ(vargas[6].toArray()[7].toInt(), 4);  // and its navamsha: Cancer
+}
+
+TEST(CommandLine, JsonListsTheCatalogueRulesThatHoldInTheClassOrder)
+{
+    ScopedSettingsStore store;
+    const CliRun r = run(kDelhi + QStringList{"--json"});
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    const QJsonArray names = QJsonDocument::fromJson(r.out.toUtf8()).object()["catalogue"].toArray();
+    ASSERT_FALSE(names.isEmpty());
+    QStringList order;
+    for (const clsYoga::CatalogueRule &rule : clsYoga::Catalogue())
+        order << QString::fromLatin1(rule.name);
+    qsizetype last = -1;
+    for (const QJsonValue &n : names) {
+        const qsizetype at = order.indexOf(n.toString());
+        EXPECT_GT(at, last) << n.toString().toStdString();
+        last = at;
+    }
+    // The Sun late in Cancer, the second half of an even sign, stands in the Sun's hora.
+    EXPECT_TRUE(names.contains(QJsonValue("RajyaYoga2")));
 }
