@@ -85,7 +85,8 @@ QJsonObject ChartCastJson(const clsPlanets &chart)
         QJsonObject pl{{QStringLiteral("n"), n}, {QStringLiteral("longitude"), chart.PlanetLongi(n)}};
         if (n != 0)
             pl.insert(QStringLiteral("next"), chart.PlanetLongi(n + 13));
-        pl.insert(QStringLiteral("retrograde"), chart.RetroGrade(n));
+        // The Lagna has no motion of its own to turn back: never retrograde here.
+        pl.insert(QStringLiteral("retrograde"), n != 0 && chart.RetroGrade(n));
         planets.append(pl);
     }
     o.insert(QStringLiteral("planets"), planets);

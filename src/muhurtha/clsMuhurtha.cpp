@@ -261,8 +261,10 @@ void clsMuhurtha::ScanRange()
         setClock(p, m_timeStart);
         bool passedMidnight = false;
         for (;;) {
-            SampleScanMoment();
+            // The day of the clock as set: a cast at 0.00 leaves the person at 24.00 of the day
+            // before, which would end the day after its first moment.
             const QDate d0(static_cast<int>(p.Year()), static_cast<int>(p.Month()), static_cast<int>(p.Day()));
+            SampleScanMoment();
             const double t = p.AddMinutes(150);
             const QDate d1(static_cast<int>(p.Year()), static_cast<int>(p.Month()), static_cast<int>(p.Day()));
             if (d0.daysTo(d1) >= 1) {

@@ -190,6 +190,7 @@ private:
     bool taraFires(const clsPlanets &natal) const;
     bool moonSignFires(const clsPlanets &natal) const;
     bool vishDayFires() const;
+    bool vishTithiFires() const;
     bool lagnaShuddhi() const;
     bool lattaDosha() const;
     bool paatDosha() const;

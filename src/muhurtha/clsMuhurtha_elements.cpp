@@ -36,6 +36,19 @@ inline constexpr std::array<std::array<int, 7>, 7> kSiddhiNakshatras{{
 
 // Ghatis after sunrise at which the poisoned part of the day begins, by weekday (Sunday first).
 inline constexpr std::array<int, 7> kVishGhati{20, 2, 12, 10, 7, 5, 25};
+// The ghati of each tithi 1..15 after which its four poisoned ghatis begin (the same for n + 15).
+inline constexpr std::array<int, 15> kVishTithiGhati{15, 5, 8, 7, 7, 5, 4, 8, 7, 10, 3, 13, 14, 7, 8};
+
+// The clock (hh.mm) a count of ghatis after sunrise r: x * 24 / 60 hours, its fraction as minutes,
+// sixty minutes carried into the hour.
+double clockAfterSunrise(double r, double ghatis)
+{
+    const double x = ghatis * 24.0 / 60.0;
+    double at = r + Int(x) + (x - Int(x)) * 60 / 100;
+    while (std::round((at - Int(at)) * 100) / 100 > 0.59)
+        at = at - 0.6 + 1;
+    return at;
+}
 
 // Sun's nakshatras that make Paat dosha with the Moon's nakshatra of the row; 0 pads.
 struct PaatRow
@@ -177,6 +190,8 @@ bool clsMuhurtha::fires(const QString &code, const QString &value, bool &known) 
         return weekday == 2 || weekday == 7;
     if (code == u"VISHDAY")
         return vishDayFires();
+    if (code == u"VISHTITHI")
+        return vishTithiFires();
     if (code == u"JUPVENCOMBUST")
         return c.Combust(5).value_or(false) || c.Combust(3).value_or(false);
     if (code == u"LAGNASHUDDHI")
@@ -230,7 +245,7 @@ bool clsMuhurtha::fires(const QString &code, const QString &value, bool &known) 
         return GetKharMaas(c.PlanetSign(1));
     // Recognised, with no rule yet: they never fire.
     if (code == u"EKARGALADOSHA" || code == u"VEDHANAK" || code == u"BOYSURYA" || code == u"GIRLGURU"
-        || code == u"BOYMOON" || code == u"GIRLMOON" || code == u"VISHTITHI")
+        || code == u"BOYMOON" || code == u"GIRLMOON")
         return false;
     known = false;
     return false;
@@ -265,6 +280,32 @@ bool clsMuhurtha::vishDayFires() const
         start = start - 0.6 + 1;
     const double t = m_scan->Person().GetBirthDecimalTime();
     return start <= t && t <= start + 1.6;
+}
+
+bool clsMuhurtha::vishTithiFires() const
+{
+    const clsPlanets &c = *m_scan;
+    const clsPerson &p = c.Person();
+    // The Moon's distance from the Sun within its half of the month gives the tithi (0..14 here)
+    // and how much of it has run: a tithi is taken as sixty ghatis, twelve degrees.
+    double d = c.PlanetLongi(7) - c.PlanetLongi(1);
+    if (d < 0)
+        d += 360;
+    if (d > 180)
+        d -= 180;
+    const int n = static_cast<int>(Int(d / 12)) % 15;
+    const double run = (d - 12.0 * Int(d / 12)) / 12 * 60;
+    // The tithi began `run` ghatis before the moment; its poisoned ghatis begin the table's count
+    // after that, counted here from sunrise.
+    const double r = daySunrise();
+    const double hoursSinceSunrise = (p.Hour() + p.Minutes() / 60.0) - (Int(r) + (r - Int(r)) * 100 / 60);
+    const double from = hoursSinceSunrise * 2.5 - run + kVishTithiGhati[static_cast<size_t>(n)];
+    // A window that closed before sunrise belongs to the day before.
+    if (from + 4 < 0)
+        return false;
+    const double t = p.Hour() + p.Minutes() / 100.0;
+    const double start = from < 0 ? r : clockAfterSunrise(r, from);
+    return start <= t && t <= clockAfterSunrise(r, from + 4);
 }
 
 double clsMuhurtha::daySunrise() const

@@ -56,6 +56,7 @@ TEST(CommandLine, JsonHoldsTheChartAndThePersonAfterTheCast)
     EXPECT_TRUE(planets[7].toObject()["next"].isDouble());
     EXPECT_NEAR(planets[1].toObject()["longitude"].toDouble(), 119.09, 0.01); // Sun in late Cancer
     EXPECT_TRUE(planets[8].toObject()["retrograde"].toBool());                // the mean node
+    EXPECT_FALSE(planets[0].toObject()["retrograde"].toBool());               // the Lagna, never
     EXPECT_EQ(o["kp_cusps"].toArray().size(), 12);
 }
 

@@ -303,6 +303,28 @@ TEST_F(MuhurthaTest, NatalElementsReadTheRightCharts)
     EXPECT_TRUE(on(QStringLiteral("TG")));
 }
 
+// The poisoned ghatis of a tithi: four ghatis that begin the table's count after the tithi began.
+// At 10.00 the tithi began run = (d mod 12) / 12 * 60 ghatis earlier, so the window holds the
+// moment when the table's count less run lies between -4 and 0, whatever the sunrise.
+TEST_F(MuhurthaTest, PoisonedGhatisOfTheTithi)
+{
+    const auto at10 = [this](double sun, double moon) {
+        clsPlanets &c = moment(QStringLiteral("SUN"), sky(sun, moon));
+        c.Person().setHour(10);
+        c.Person().setMinutes(0);
+        return on(QStringLiteral("VISHTITHI"));
+    };
+    // Tithi 1 (15 ghatis): 3.4 degrees run is 17 ghatis, inside; 2 degrees (10) and 5 (25) outside.
+    EXPECT_TRUE(at10(10, 13.4));
+    EXPECT_FALSE(at10(10, 12));
+    EXPECT_FALSE(at10(10, 15));
+    // Tithi 16 reads tithi 1's count.
+    EXPECT_TRUE(at10(10, 193.4));
+    // Tithi 2 (5 ghatis): 1.4 degrees past its start is 7 ghatis, inside; 0.4 (2) is before.
+    EXPECT_TRUE(at10(10, 23.4));
+    EXPECT_FALSE(at10(10, 22.4));
+}
+
 TEST_F(MuhurthaTest, UnknownCodesAreNotElements)
 {
     moment(QStringLiteral("SUN"), sky(10, 190));
@@ -329,6 +351,11 @@ TEST_F(MuhurthaTest, SamplingOfTheSpan)
     // A step past midnight ends the day on the next date, which then starts at its own time.
     m_muhu->CheckMuhurtha(QStringLiteral("Sunday act"), QStringLiteral("TEST"), QDate(2025, 1, 5), QDate(2025, 1, 6), 20.00, 23.59, *m_place);
     EXPECT_EQ(times(*m_muhu), (QStringList{"05/01 20.00", "05/01 22.30", "06/01 20.00", "06/01 22.30"}));
+
+    // A day searched from midnight has all its moments; the first is cast as 24.00 of the day
+    // before, the same instant.
+    m_muhu->CheckMuhurtha(QStringLiteral("Sunday act"), QStringLiteral("TEST"), QDate(2025, 1, 5), QDate(2025, 1, 6), 0.00, 5.00, *m_place);
+    EXPECT_EQ(times(*m_muhu), (QStringList{"04/01 24.00", "05/01 02.30", "05/01 05.00", "05/01 24.00", "06/01 02.30", "06/01 05.00"}));
 
     // A start after the end: one moment a day.
     m_muhu->CheckMuhurtha(QStringLiteral("Sunday act"), QStringLiteral("TEST"), QDate(2025, 1, 5), QDate(2025, 1, 7), 12.00, 10.00, *m_place);
