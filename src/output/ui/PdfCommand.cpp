@@ -17,7 +17,10 @@ const QString kPdfUsage = QStringLiteral(
     "Topics are the keys of the print tree; all topics by default. Keys: %1\n");
 } // namespace
 
-int WriteSessionPdf(int progMode, const QSet<QString> &ticked, const QString &file, QTextStream &out, QTextStream &err)
+namespace {
+// Draws the steps from the session's charts into a new PDF file; "Wrote ..." on out, or why not
+// on err. Returns the exit status.
+int writeSteps(const QList<PrintStep> &steps, const QString &file, QTextStream &out, QTextStream &err)
 {
     clsPDFExporter pdf;
     pdf.filename = file;
@@ -29,7 +32,7 @@ int WriteSessionPdf(int progMode, const QSet<QString> &ticked, const QString &fi
     Output().PageCounter = 1;
     PageCache pages;
     PageOutput output(nullptr, nullptr, &pdf);
-    const int drawn = WalkSteps(SelectedSteps(progMode, false, ticked), pages, output);
+    const int drawn = WalkSteps(steps, pages, output);
     pages.UnloadPages();
     if (!pdf.FinishFile()) {
         err << "Cannot complete " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
@@ -37,6 +40,12 @@ int WriteSessionPdf(int progMode, const QSet<QString> &ticked, const QString &fi
     }
     out << "Wrote " << drawn << " topics, " << pdf.surface().PageCount() << " pages to " << file << '\n';
     return 0;
+}
+} // namespace
+
+int WriteSessionPdf(int progMode, const QSet<QString> &ticked, const QString &file, QTextStream &out, QTextStream &err)
+{
+    return writeSteps(SelectedSteps(progMode, false, ticked), file, out, err);
 }
 
 int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err)
@@ -77,22 +86,5 @@ int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err)
 
 int WriteVarshaPdf(const QString &file, QTextStream &out, QTextStream &err)
 {
-    clsPDFExporter pdf;
-    pdf.filename = file;
-    if (!pdf.StartExport()) {
-        err << "Cannot write " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
-        return 1;
-    }
-    Output().PrintAbort = false;
-    Output().PageCounter = 1;
-    PageCache pages;
-    PageOutput output(nullptr, nullptr, &pdf);
-    const int drawn = WalkSteps(PrintWalkForMode(4, false), pages, output);
-    pages.UnloadPages();
-    if (!pdf.FinishFile()) {
-        err << "Cannot complete " << QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath()) << '\n';
-        return 1;
-    }
-    out << "Wrote " << drawn << " topics, " << pdf.surface().PageCount() << " pages to " << file << '\n';
-    return 0;
+    return writeSteps(PrintWalkForMode(4, false), file, out, err);
 }
