@@ -25,25 +25,29 @@ void frmVarshaDasha::fillYear(const clsVarsha &v)
         y += 26;
     };
 
+    // Patyayini and Mudda Vimshottari: each lord with its span, its dates and its dignity.
+    const auto lordTable = [&](const std::vector<VarshaDashaRow> &rows) {
+        const Table t = addTable(90, y, {160, 90, 110, 110, 110}, kRowH, {planets, var("Span"), var("From"), var("To"), state},
+                                 static_cast<int>(rows.size()), Small, true);
+        for (size_t i = 0; i < rows.size(); ++i) {
+            const VarshaDashaRow &r = rows[i];
+            const int row = static_cast<int>(i);
+            t.cell(row, 0)->setText(r.Name);
+            t.cell(row, 1)->setText(QString::number(CLng(r.Days)) + days);
+            t.cell(row, 2)->setText(date(r.Start));
+            t.cell(row, 3)->setText(date(r.End));
+            t.cell(row, 4)->setText(orDash(a.ExaltClass(r.Lord)));
+        }
+        y = t.rect.bottom() + 22;
+    };
+
     heading("Patyayini");
-    const std::vector<VarshaDashaRow> pat = v.PatyayiniRows();
-    Table t = addTable(90, y, {160, 90, 110, 110, 110}, kRowH, {planets, var("Span"), var("From"), var("To"), state},
-                       static_cast<int>(pat.size()), Small, true);
-    for (size_t i = 0; i < pat.size(); ++i) {
-        const VarshaDashaRow &r = pat[i];
-        const int row = static_cast<int>(i);
-        t.cell(row, 0)->setText(r.Name);
-        t.cell(row, 1)->setText(QString::number(CLng(r.Days)) + days);
-        t.cell(row, 2)->setText(date(r.Start));
-        t.cell(row, 3)->setText(date(r.End));
-        t.cell(row, 4)->setText(orDash(a.ExaltClass(r.Lord)));
-    }
-    y = t.rect.bottom() + 22;
+    lordTable(v.PatyayiniRows());
 
     heading("MuddaYogini");
     const std::vector<VarshaDashaRow> yog = v.MuddaYoginiRows();
-    t = addTable(90, y, {130, 120, 90, 120, 120}, kRowH, {var("Dasha"), planets, var("Span"), var("From"), var("To")},
-                 static_cast<int>(yog.size()), Small, true);
+    const Table t = addTable(90, y, {130, 120, 90, 120, 120}, kRowH, {var("Dasha"), planets, var("Span"), var("From"), var("To")},
+                             static_cast<int>(yog.size()), Small, true);
     for (size_t i = 0; i < yog.size(); ++i) {
         const VarshaDashaRow &r = yog[i];
         const int row = static_cast<int>(i);
@@ -56,16 +60,5 @@ void frmVarshaDasha::fillYear(const clsVarsha &v)
     y = t.rect.bottom() + 22;
 
     heading("MuddaVimshottari");
-    const std::vector<VarshaDashaRow> vim = v.MuddaVimshottariRows();
-    t = addTable(90, y, {160, 90, 110, 110, 110}, kRowH, {planets, var("Span"), var("From"), var("To"), state},
-                 static_cast<int>(vim.size()), Small, true);
-    for (size_t i = 0; i < vim.size(); ++i) {
-        const VarshaDashaRow &r = vim[i];
-        const int row = static_cast<int>(i);
-        t.cell(row, 0)->setText(r.Name);
-        t.cell(row, 1)->setText(QString::number(CLng(r.Days)) + days);
-        t.cell(row, 2)->setText(date(r.Start));
-        t.cell(row, 3)->setText(date(r.End));
-        t.cell(row, 4)->setText(orDash(a.ExaltClass(r.Lord)));
-    }
+    lordTable(v.MuddaVimshottariRows());
 }
