@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
+#include <QTest>
 
 namespace {
 
@@ -66,6 +67,13 @@ TEST_F(QuickView, TheMenuChangesTheSecondChartAndTheTable)
 
     QMenu *menu = page->mnuPopup();
     ASSERT_NE(menu, nullptr);
+    // A right click on the page opens the menu.
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    const QPoint at = page->mapTo(window.get(), QPoint(300, 300));
+    QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, at);
+    EXPECT_TRUE(menu->isVisible());
+    menu->hide();
     item(menu, "Kundlis/Chandra Kundli")->trigger();
     EXPECT_EQ(page->Kun2->model().HouseNumber(), c.PlanetSign(7)) << "the Moon's sign rises";
     EXPECT_EQ(page->lblKun2->text(), "Chandra Kundli");
