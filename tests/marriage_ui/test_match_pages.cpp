@@ -36,17 +36,6 @@ protected:
         window->show();
         QApplication::processEvents();
     }
-    static void type(QWidget *box, const QString &keys)
-    {
-        auto *edit = qobject_cast<QLineEdit *>(box);
-        if (!edit)
-            edit = qobject_cast<QComboBox *>(box)->lineEdit();
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Delete);
-        edit->home(false);
-        QTest::keyClicks(edit, keys);
-    }
     static void click(QAbstractButton *b) { QTest::mouseClick(b, Qt::LeftButton); }
     void typeBirth(BirthPanel *p, const QString &name, const QString &date, const QString &time, const QString &lat,
                    const QString &lon)

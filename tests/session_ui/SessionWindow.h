@@ -7,7 +7,10 @@
 #include "app/mdiMother.h"
 #include "support/TestSupport.h"
 
+#include <QComboBox>
 #include <QFile>
+#include <QLineEdit>
+#include <QTest>
 #include <QSqlDatabase>
 #include <QTemporaryDir>
 
@@ -51,6 +54,18 @@ protected:
         p->txtLati->setText(lat);
         p->txtLongi->setText(lon);
         p->txtGMT->setText(gmt);
+    }
+    // Clears a box (a line edit, or an editable list's) and types keys into it, as a user would.
+    static void type(QWidget *box, const QString &keys)
+    {
+        auto *edit = qobject_cast<QLineEdit *>(box);
+        if (!edit)
+            edit = qobject_cast<QComboBox *>(box)->lineEdit();
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Delete);
+        edit->home(false);
+        QTest::keyClicks(edit, keys);
     }
     std::vector<int> numbers() const
     {

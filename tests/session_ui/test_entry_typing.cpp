@@ -23,18 +23,6 @@ protected:
         window->show();
         QApplication::processEvents();
     }
-    // Clears a box and types keys into it, then leaves it as Tab does.
-    static void type(QWidget *box, const QString &keys)
-    {
-        auto *edit = qobject_cast<QLineEdit *>(box);
-        if (!edit)
-            edit = qobject_cast<QComboBox *>(box)->lineEdit();
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Delete);
-        edit->home(false);
-        QTest::keyClicks(edit, keys);
-    }
     void typeBirthByKeys(BirthPanel *p, const QString &name, const QString &date, const QString &time, const QString &lat,
                          const QString &lon)
     {

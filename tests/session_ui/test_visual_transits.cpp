@@ -30,14 +30,6 @@ protected:
         window->tbTransits->trigger();
         return window->findChild<frmVisualTransits *>();
     }
-    static void retype(QLineEdit *box, const QString &text)
-    {
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClick(box, Qt::Key_Home);
-        box->setCursorPosition(0);
-        QTest::keyClicks(box, text);
-    }
 };
 
 } // namespace
@@ -48,8 +40,8 @@ TEST_F(VisualTransitsWindow, TypedMomentCastsAtTheBirthPlaceAndTicksStepByTheUni
     ASSERT_NE(sky, nullptr);
     EXPECT_TRUE(window->tbTransits->isEnabled());
     // The place is the birth's; the moment the one typed, a PM hour read on the 24-hour clock.
-    retype(sky->txtDate, "31012024");
-    retype(sky->txtTime, "0245");
+    type(sky->txtDate, "31012024");
+    type(sky->txtTime, "0245");
     QTest::mouseClick(sky->optPM, Qt::LeftButton);
     QTest::mouseClick(sky->cmdGenerate, Qt::LeftButton);
     EXPECT_EQ(sky->moment(), QDateTime(QDate(2024, 1, 31), QTime(14, 45), Qt::UTC));
@@ -87,7 +79,7 @@ TEST_F(VisualTransitsWindow, ANonsenseDateIsRefusedAndTheSkyStays)
     frmVisualTransits *sky = open();
     ASSERT_NE(sky, nullptr);
     const QDateTime before = sky->moment();
-    retype(sky->txtDate, "31022024");
+    type(sky->txtDate, "31022024");
     // The refusal shows a message box; close it as a user would.
     QTimer::singleShot(0, [] {
         if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))

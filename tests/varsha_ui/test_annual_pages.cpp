@@ -37,17 +37,6 @@ protected:
         window->show();
         QApplication::processEvents();
     }
-    static void type(QWidget *box, const QString &keys)
-    {
-        auto *edit = qobject_cast<QLineEdit *>(box);
-        if (!edit)
-            edit = qobject_cast<QComboBox *>(box)->lineEdit();
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Delete);
-        edit->home(false);
-        QTest::keyClicks(edit, keys);
-    }
     void generate()
     {
         QTest::mouseClick(screen->cmdVarshaphala, Qt::LeftButton);
