@@ -3,6 +3,7 @@
 // paginate under their header and count their sheets, labels wrap as paper needs, and the
 // command line writes a file or says why not.
 #include "output/PrintTree.h"
+#include "output_ui/DelhiSession.h"
 #include "output/ui/PageCache.h"
 #include "output/ui/PageOutput.h"
 #include "output/ui/PdfCommand.h"
@@ -24,38 +25,9 @@
 
 namespace {
 
-// The session of one Delhi birth, as Generate leaves it.
-class PdfExport : public ::testing::Test
+class PdfExport : public DelhiSession
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(OpenTextDB("ENGLISH", Session().TextDB));
-        auto c = std::make_unique<clsPlanets>();
-        c->setTextDB(Session().TextDB, QSqlDatabase());
-        c->Person() = MakePerson(15, 8, 1980, 14, 35, "5.5", 28, 38, "N", 77, 12, "E");
-        c->Person().setName("Asha");
-        c->Calculate();
-        Session().ProgMode = 1;
-        Session().CurPlanets = std::move(c);
-        Output() = OutputState{};
-    }
-    void TearDown() override
-    {
-        Session().ReleaseCharts();
-        CloseTextDB(Session().TextDB);
-    }
-    // The text of a PDF, or an empty string when the tool isn't there.
-    static QString pdfText(const QString &file)
-    {
-        const QString tool = QStandardPaths::findExecutable("pdftotext");
-        if (tool.isEmpty())
-            return {};
-        QProcess p;
-        p.start(tool, {"-layout", file, "-"});
-        p.waitForFinished();
-        return QString::fromUtf8(p.readAllStandardOutput());
-    }
     // With ORBANTA_SCREENSHOTS set, the first sheet of a PDF as a picture there.
     static void snapshot(const QString &file, const QString &name)
     {
@@ -65,8 +37,6 @@ protected:
             return;
         QProcess::execute(tool, {"-r", "70", "-png", "-f", "1", "-l", "1", "-singlefile", file, out + "/" + name});
     }
-    ScopedSettingsStore store;
-    QTemporaryDir dir;
 };
 
 // A text page of n paragraphs.

@@ -2,6 +2,7 @@
 // The conjunction and placement pages of a Delhi birth: what the tables and headings show, and
 // that the five pages go to the printer and into a PDF with their words.
 #include "output/PrintTree.h"
+#include "output_ui/DelhiSession.h"
 #include "output/ui/PageCache.h"
 #include "output/ui/PageOutput.h"
 #include "output/ui/PrintRun.h"
@@ -23,27 +24,10 @@
 
 namespace {
 
-class ReadingPages : public ::testing::Test
+class ReadingPages : public DelhiSession
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(OpenTextDB("ENGLISH", Session().TextDB));
-        auto c = std::make_unique<clsPlanets>();
-        c->setTextDB(Session().TextDB, QSqlDatabase());
-        c->Person() = MakePerson(15, 8, 1980, 14, 35, "5.5", 28, 38, "N", 77, 12, "E");
-        c->Person().setName("Asha");
-        c->Person().setSex(2);
-        c->Calculate();
-        Session().ProgMode = 1;
-        Session().CurPlanets = std::move(c);
-        Output() = OutputState{};
-    }
-    void TearDown() override
-    {
-        Session().ReleaseCharts();
-        CloseTextDB(Session().TextDB);
-    }
+    ReadingPages() : DelhiSession(2) {}
     const clsPlanets &chart() const { return *Session().CurPlanets; }
     static void shoot(QWidget &page, const QString &name)
     {
@@ -53,18 +37,6 @@ protected:
         QDir().mkpath(out);
         page.grab().save(out + QLatin1Char('/') + name);
     }
-    static QString pdfText(const QString &file)
-    {
-        const QString tool = QStandardPaths::findExecutable("pdftotext");
-        if (tool.isEmpty())
-            return {};
-        QProcess p;
-        p.start(tool, {"-layout", file, "-"});
-        p.waitForFinished();
-        return QString::fromUtf8(p.readAllStandardOutput());
-    }
-    ScopedSettingsStore store;
-    QTemporaryDir dir;
 };
 
 } // namespace
