@@ -51,12 +51,15 @@ public:
     bool Sankha2() const;
     bool RajyaYoga1() const;
     bool RajyaYoga2() const;
+    bool RajyaYoga3() const;
     bool Chhapa() const;
+    bool Mridanga1() const;
     bool Mridanga2() const;
     bool GajaPati1() const;
     bool GajaPati2() const;
     bool GajaPati3() const;
     bool ManMahendra1() const;
+    bool ManMahendra2() const;
     bool ManMahendra3() const;
     bool ManMahendra4() const;
     bool Surendra1() const;
@@ -65,11 +68,14 @@ public:
     bool Surendra4() const;
     bool Vikrama1() const;
     bool Vikrama2() const;
+    bool Vikrama3() const;
     bool Vikrama4() const;
     bool Deva1() const;
     bool Deva2() const;
     bool Deva3() const;
     bool Deva4() const;
+    bool Mrigendra1() const;
+    bool Mrigendra2() const;
     bool Mrigendra3() const;
     bool Muni() const;
     bool Amitayu() const;
@@ -83,6 +89,7 @@ public:
     bool Purnayu8() const;
     bool Purnayu9() const;
     bool Purnayu10() const;
+    bool Purnayu11() const;
     bool Shatadhika1() const;
     bool Shatadhika2() const;
     bool Rudra1() const;
@@ -91,18 +98,25 @@ public:
     bool Paravata1() const;
     bool Paravata2() const;
     bool Paravata3() const;
+    bool Paravata4() const;
     bool Devamsha1() const;
+    bool Devamsha2() const;
+    bool Devamsha3() const;
     bool Maharajadhiraj1() const;
     bool Maharajadhiraj2() const;
     bool Maharajadhiraj3() const;
     bool Maharajadhiraj4() const;
+    bool Maharajadhiraj5() const;
+    bool Maharajadhiraj6() const;
     bool Divya1() const;
     bool Divya2() const;
     bool Divya3() const;
     bool Divya4() const;
     bool Divya5() const;
+    bool Rashmi1() const;
     bool Rashmi2() const;
     bool Rashmi3() const;
+    bool Rashmi4() const;
     bool Rashmi5() const;
     bool Tarit1() const;
     bool Tarit2() const;
@@ -114,6 +128,7 @@ public:
     bool Kailash2() const;
     bool Kailash3() const;
     bool Dehakashta1() const;
+    bool Dehakashta2() const;
     bool Arvind1() const;
     bool Arvind2() const;
     bool Arvind3() const;
@@ -126,6 +141,7 @@ public:
     bool Brahamand4() const;
     bool Rajrajeshwar1() const;
     bool Rajrajeshwar2() const;
+    bool Rajrajeshwar3() const;
     bool VideshYatra1() const;
     bool VideshYatra2() const;
     bool Mahendra1() const;
@@ -175,6 +191,7 @@ public:
     bool RajaYoga41() const;
     bool Garuda() const;
     bool Chandika() const;
+    bool Kurma() const;
     bool Parijatha() const;
     bool JaiminiRY1() const;
     bool JaiminiRY2() const;
@@ -182,6 +199,7 @@ public:
     bool JaiminiRY4() const;
     bool JaiminiRY5() const;
     bool JaiminiRY6() const;
+    bool JaiminiRY7() const;
     bool JaiminiRY8() const;
     bool JaiminiRY9() const;
     bool JaiminiRY10() const;
@@ -190,9 +208,11 @@ public:
     bool JaiminiRY13() const;
     bool JaiminiRY14() const;
     bool JaiminiRY15() const;
+    bool JaiminiRY16() const;
     bool JaiminiRY18() const;
     bool JaiminiArishta1() const;
     bool JaiminiArishta3() const;
+    bool JaiminiArishta4() const;
     // The catalogue: vehicles, wealth, loss of wealth and riches.
     bool Vahana1() const;
     bool Vahana2() const;
@@ -217,6 +237,7 @@ public:
     bool DhanaYoga7() const;
     bool DhanaYoga8() const;
     bool DhanaYoga9() const;
+    bool DhanaYoga10() const;
     bool DhanaYoga11() const;
     bool DhanaYoga12() const;
     bool DhanaYoga13() const;
@@ -244,6 +265,7 @@ public:
     bool DhanaYoga35() const;
     bool DhanaYoga36() const;
     bool DhanaYoga37() const;
+    bool DhanaYoga38() const;
     bool DhanaYoga39() const;
     bool DhanaYoga40() const;
     bool DhanaYoga41() const;
@@ -251,6 +273,7 @@ public:
     bool DhanaYoga43() const;
     bool DhanaYoga44() const;
     bool DhanaYoga45() const;
+    bool DhanaYoga46() const;
     bool DhanaYoga47() const;
     bool DhanaYoga48() const;
     bool DhanaYoga49() const;
@@ -281,8 +304,13 @@ public:
     bool Dhanahani3() const;
     bool Dhanahani4() const;
     bool Dhanahani5() const;
+    bool Dhanahani6() const;
     bool Dhanahani7() const;
     bool Dhanahani8() const;
+    bool Dhanahani9() const;
+    bool Dhanahani10() const;
+    bool Dhanahani11() const;
+    bool Dhanahani12() const;
     bool Dhanahani13() const;
     bool Dhanahani14() const;
     bool Dhanahani15() const;
@@ -292,6 +320,9 @@ public:
     bool Dhanahani20() const;
     bool Dhanahani21() const;
     bool Dhanahani22() const;
+    bool Dhanahani23() const;
+    bool Dhanahani35() const;
+    bool Dhanahani36() const;
     bool Dhanahani24() const;
     bool Dhanahani26() const;
     bool Dhanahani27() const;
@@ -304,6 +335,7 @@ public:
     bool Dhanahani34() const;
     bool MahaDhanaYoga1() const;
     bool MahaDhanaYoga2() const;
+    bool MahaDhanaYoga3() const;
     bool NashtadravyaPrapti() const;
     bool Sampat1() const;
     bool Sampat2() const;
@@ -314,22 +346,34 @@ public:
     bool Sampat7() const;
     bool Sampat8() const;
     bool Sampat9() const;
+    bool Sampat10() const;
     bool Sampat11() const;
     bool Sampat12() const;
     // The catalogue: family, body, mind, speech and fortune.
     bool Dattaputra() const;
+    bool Khalwata() const;
+    bool MatiBhrama() const;
     bool Vatha() const;
     bool DrishtiDurval() const;
+    bool Durdhura() const;
     bool Rajlakshana() const;
     bool Gyatibhisthyaktha() const;
     bool MatriDeerghayu() const;
     bool NishKapata() const;
+    bool Kapata() const;
+    bool MatriSneha() const;
+    bool MatriShatrutwa() const;
     bool SarpaSapa() const;
     bool PitriSapa() const;
     bool MatriSapa() const;
     bool BhatriSapa() const;
     bool PretaSapa() const;
+    bool BahuSantana() const;
+    bool Suputra() const;
     bool Putrasukh() const;
+    bool Aputra() const;
+    bool Anapathya() const;
+    bool Ekputra() const;
     bool Kalanirdesat() const;
     bool Kalanasha() const;
     bool Buddhimaturya() const;
@@ -352,7 +396,9 @@ public:
     bool Bandhana2() const;
     bool Peenasaroga() const;
     bool Pittaroga() const;
+    bool Durbhashi() const;
     bool RajaYogaBhanga() const;
+    bool Nisthura() const;
     bool Bharathi() const;
     bool Kulavardhana() const;
     bool UttamaArgala() const;
@@ -367,6 +413,7 @@ public:
     bool Vishnu() const;
     bool Brahm() const;
     bool Krishanga1() const;
+    bool Krishanga2() const;
     bool Dehashthoulya1() const;
     bool Dehashthoulya2() const;
     bool Dehashthoulya3() const;
@@ -394,8 +441,12 @@ public:
     bool YuddhaPashchat() const;
     bool Satkathadi() const;
     bool TeevraBuddhi() const;
+    bool Trikalagnana() const;
     bool NavaLakshmi() const;
     bool Koteesha() const;
+
+    // The sixtieth part of p is a gentle (benefic) one.
+    bool CheckMriduAmsha(int p) const;
 
     // The Nabhasha family: how the seven planets spread over signs and houses.
     bool Gola_Nabhasha() const;
@@ -492,5 +543,11 @@ private:
     // All of the planets 1..7 in the houses.
     bool allIn(std::initializer_list<int> houses) const;
     bool strongOrOwn(int p) const;
+    // How many of the planets stand in the houses.
+    int countIn(std::initializer_list<int> planets, std::initializer_list<int> houses) const;
+    // p joins a benefic or stands where a benefic's sign aspect falls.
+    bool beneficLinked(int p) const;
+    // The 2nd lord's navamsha lord in the 6th, 8th or 12th with no other planet there.
+    bool secondNavLordAlone() const;
     YogaChart y;
 };

@@ -436,3 +436,25 @@ bool clsYoga::YuddhaPoorvat() const
     // "S(L3) or ...": a sign number is never 0, so the last group always passes.
     return y.chart().CountPlanetInSign(y.H(3)) >= 2 && y.exalted(y.L(3));
 }
+
+// ---- rules kept as written, added with the settled ones ----
+
+// "p.s>n = 9" and "= 2": the n-th sign from the planet's is Sagittarius, or Taurus.
+bool clsYoga::Khalwata() const
+{
+    const int lg = y.Lg();
+    if (!(lg == 1 || lg == 5 || lg == 8 || lg == 10 || lg == 11))
+        return false;
+    static constexpr int counts[][2] = {{P::Su, 7}, {P::Ma, 7}, {P::Ma, 4}, {P::Ma, 8}, {P::Sa, 7}, {P::Sa, 3}, {P::Sa, 10}};
+    for (int target : {9, 2})
+        for (const auto &[p, n] : counts)
+            if (Norm12(y.S(p) + n - 1) == target)
+                return true;
+    return false;
+}
+bool clsYoga::Trikalagnana() const
+{
+    return gopuram(P::Ju) == 4 &&
+           (withAny(P::Ju, {P::Mo, P::Me, P::Ve}) || sees(P::Ju, P::Mo) || sees(P::Ju, P::Me) || sees(P::Ju, P::Ve)) &&
+           CheckMriduAmsha(P::Ju);
+}

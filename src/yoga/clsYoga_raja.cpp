@@ -583,3 +583,20 @@ bool clsYoga::Rajrajeshwar2() const
     return (lg == 1 && y.in(P::Sa, {1}) && y.signIn(P::Ma, {1, 10}) && navSign(P::Ma) != 4) ||
            (y.signIn(P::As, {7, 9, 10, 11, 12}) && y.in(P::Sa, {1}) && navSign(P::Sa) != 1);
 }
+
+// ---- rules kept as written, added with the settled ones ----
+
+bool clsYoga::ManMahendra2() const
+{
+    if (gap(P::Su, P::Mo) < 72 || !(navLord(P::Mo) == P::Mo || ownEx(P::Mo)) || !sees(P::Mo, P::Ve))
+        return false;
+    for (int p : {P::Ju, P::Sa, P::Me, P::Ma, P::Su})
+        if (sees(P::Mo, p))
+            return false;
+    return !y.chart().DayBirth();
+}
+bool clsYoga::Mrigendra2() const
+{
+    const int l10 = y.L(10);
+    return y.in(l10, {8}) && ownEx(l10) && gopuram(l10) == 6;
+}

@@ -502,3 +502,41 @@ bool clsYoga::DhanaYoga36() const
             return true;
     return false;
 }
+
+// ---- rules kept as written, added with the settled ones ----
+
+// "lord((Lg + 9))": a sign number past 12 counts on round the zodiac, so this is the 10th lord.
+bool clsYoga::DhanaYoga10() const { return y.S(navLord(y.L(11))) == Norm12(y.S(y.L(10))); }
+// "S((Lg + 1))" and "S((Lg + 8))" stand for the 2nd and 9th signs, whose lords the rule then
+// names as L2 and L9.
+bool clsYoga::DhanaYoga38() const
+{
+    return ownEx(y.L(1)) && ownEx(y.L(2)) && ownEx(y.L(9)) && y.in(y.L(1), {2, 9});
+}
+// The 2nd lord's navamsha lord alone in the 6th, 8th or 12th ("no planet in that house" but the
+// one that stands there).
+bool clsYoga::secondNavLordAlone() const
+{
+    const int n = navLord(y.L(2));
+    if (!y.in(n, {6, 8, 12}))
+        return false;
+    for (int q = 1; q <= 9; ++q)
+        if (q != n && y.with(q, n))
+            return false;
+    return true;
+}
+bool clsYoga::Dhanahani10() const { return secondNavLordAlone() && sees(navLord(y.L(2)), y.L(1)); }
+bool clsYoga::Dhanahani11() const
+{
+    return secondNavLordAlone() && !y.chart().SashtiAmshaBenefic(navLord(y.L(2)));
+}
+bool clsYoga::MahaDhanaYoga3() const
+{
+    const clsPlanets &c = y.chart();
+    return c.CheckHighestExaltDeg(navLord(y.L(1))) && c.CheckHighestExaltDeg(navLord(y.L(9))) && gopuram(y.L(11)) == 13;
+}
+bool clsYoga::Sampat10() const
+{
+    const int l2 = y.L(2);
+    return gopuram(l2) == 4 && gopuram(navLord(l2)) == 5;
+}
