@@ -1,21 +1,18 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: AGPL-3.0-or-later
-# Builds the fuzz targets of fuzz/targets.def with clang and libFuzzer in ./build-fuzz and runs
-# each for ORBANTA_FUZZ_SECONDS (default 20) over its committed seeds. Any crash, sanitizer
-# report, failed check or hang fails the run and leaves the input in build-fuzz/artifacts/.
+# Builds the fuzz targets of fuzz/targets.def with clang and libFuzzer in ./build-san (the folder
+# of the sanitizer step, whose instrumented core they link) and runs each for
+# ORBANTA_FUZZ_SECONDS (default 10) over its committed seeds. Any crash, sanitizer report, failed
+# check or hang fails the run and leaves the input in build-san/artifacts/.
 # Arguments name the targets to run (default: all).
 set -euo pipefail
 here=$(cd "$(dirname "$0")/.." && pwd)
-build="$here/build-fuzz"
 jobs=$(nproc 2>/dev/null || echo 2)
-seconds=${ORBANTA_FUZZ_SECONDS:-20}
+seconds=${ORBANTA_FUZZ_SECONDS:-10}
 
-if [ ! -f "$build/build.ninja" ]; then
-  cmake -S "$here" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
-    -DORBANTA_FUZZ=ON -DORBANTA_TESTS=OFF -DORBANTA_BENCH=OFF
-fi
 source "$here/scripts/sanitizer-env.sh"
+configure_instrumented
+build="$instrumented_build"
 cmake --build "$build" -j "$jobs" --target orbanta_fuzzers
 
 if [ $# -gt 0 ]; then targets=("$@"); else mapfile -t targets <"$build/fuzz/targets.txt"; fi
