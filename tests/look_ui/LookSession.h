@@ -10,7 +10,7 @@
 #include "output/ui/TopicPage.h"
 #include "output_ui/DelhiSession.h"
 #include "session/clsIni.h"
-#include "session/ui/frmMessage.h"
+#include "sky/MessageSink.h"
 #include "sky/DataPaths.h"
 
 #include <QDir>
@@ -43,13 +43,13 @@ protected:
             answers.pop_front();
             return c;
         });
-        frmMessage::setMessageHook([this](QMessageBox::Icon, const QString &, const QString &text) { messages << text; });
+        setMessageSink(&sink);
         PageColors::Reload();
     }
     void TearDown() override
     {
         ColorBox::setPicker({});
-        frmMessage::setMessageHook({});
+        setMessageSink(nullptr);
         Session().RecDB.close();
         Session().RecDB = QSqlDatabase();
         QSqlDatabase::removeDatabase("look_ui_test");
@@ -102,5 +102,12 @@ protected:
     }
     // Answers of the colour dialog, one a click.
     std::deque<QColor> answers;
+    // What the program told the user.
     QStringList messages;
+    struct Collect : MessageSink
+    {
+        QStringList &into;
+        explicit Collect(QStringList &list) : into(list) {}
+        void warn(const QString &, const QString &text) override { into << text; }
+    } sink{messages};
 };

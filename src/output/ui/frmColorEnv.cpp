@@ -5,7 +5,7 @@
 #include "chartdraw/ui/LookControls.h"
 #include "output/ui/PageStyle.h"
 #include "session/Session.h"
-#include "session/ui/frmMessage.h"
+#include "sky/MessageSink.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -139,10 +139,8 @@ constexpr std::array<const char *, Themes::kPageKeys> kCaptionKeys{
     "TableHeadCol", "CompanyNameCol", "CompanyAddressCol", "CircleBorderCol", "TableHeadText",
 };
 
-void tell(QWidget *parent, QMessageBox::Icon icon, const QString &text)
-{
-    frmMessage::Notify(parent, icon, LookText("DesignerTitle", "Page Designer"), text);
-}
+// Tells the user what went wrong, in a message box of the program.
+void tell(const QString &text) { messageSink().warn(LookText("DesignerTitle", "Page Designer"), text); }
 } // namespace
 
 frmColorEnv::frmColorEnv(QWidget *parent) : QDialog(parent)
@@ -320,7 +318,7 @@ void frmColorEnv::cmbTheme_Click(const QString &name)
     const Themes::ReadResult r = Themes::Read(Session().RecDB, name, scheme());
     showScheme(r.scheme);
     if (!r.ok())
-        tell(this, QMessageBox::Warning, r.error);
+        tell(r.error);
 }
 
 void frmColorEnv::cmdSaveTheme_Click()
@@ -328,7 +326,7 @@ void frmColorEnv::cmdSaveTheme_Click()
     const QString name = cmbTheme->currentText().trimmed();
     const QString error = Themes::Save(Session().RecDB, name, scheme());
     if (!error.isEmpty()) {
-        tell(this, QMessageBox::Warning, error);
+        tell(error);
         return;
     }
     fillThemeList(name);
@@ -338,8 +336,7 @@ void frmColorEnv::cmdDelTheme_Click()
 {
     const QString name = cmbTheme->currentText().trimmed();
     if (name.isEmpty() || !Themes::Delete(Session().RecDB, name)) {
-        tell(this, QMessageBox::Information,
-             name.isEmpty() ? LookText("NoSchemeChosen", "Choose the colour scheme to delete first.")
+        tell(name.isEmpty() ? LookText("NoSchemeChosen", "Choose the colour scheme to delete first.")
                             : QStringLiteral("There is no colour scheme called \"%1\" to delete.").arg(name));
         return;
     }
