@@ -6,6 +6,10 @@
 #include "chartdraw/ChartLook.h"
 #include "chartdraw/ui/Kundali.h"
 #include "chartdraw/ui/frmKunEdit.h"
+#include "output/Themes.h"
+#include "output/ui/frmColorEnv.h"
+
+#include <QComboBox>
 
 #include <QApplication>
 #include <QPushButton>
@@ -124,7 +128,7 @@ TEST_F(ChartEditor, SavedLookReachesAnOpenPageOnScreenAndInPdf)
     EXPECT_FALSE(colourNear(sheet, 100, 286, back, 1)) << "the paper beside the chart stays white";
 }
 
-TEST_F(ChartEditor, MenuOpensTheEditorAndItsSaveHolds)
+TEST_F(ChartEditor, MenusOpenBothEditorsAndTheirSaveHolds)
 {
     mdiMother::setAskOnExit(false);
     mdiMother window;
@@ -145,4 +149,21 @@ TEST_F(ChartEditor, MenuOpensTheEditorAndItsSaveHolds)
     EXPECT_EQ(AppSettings::KundStyle(), 0);
     Kundali fresh;
     EXPECT_EQ(fresh.ChartStyle(), 0) << "a chart made now stands in the saved style";
+
+    QAction *designer = window.findChild<QAction *>("mnuPageDesigner");
+    ASSERT_NE(designer, nullptr);
+    EXPECT_EQ(designer->text(), "&Page Designer...");
+    const QString scheme = Themes::StockNames().at(1);
+    QTimer::singleShot(0, [&scheme] {
+        auto *f = qobject_cast<frmColorEnv *>(QApplication::activeModalWidget());
+        if (!f)
+            return;
+        f->cmbTheme->setFocus();
+        while (f->cmbTheme->currentText() != scheme && f->cmbTheme->currentIndex() < f->cmbTheme->count() - 1)
+            QTest::keyClick(f->cmbTheme, Qt::Key_Down);
+        QTest::mouseClick(f->cmdSaveAyanKundStyle, Qt::LeftButton);
+    });
+    designer->trigger();
+    EXPECT_EQ(Themes::InForceName(), scheme);
+    EXPECT_EQ(Themes::InForce(), Themes::Stock(scheme));
 }
