@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "app/mdiMother.h"
+#include "chartdraw/ui/frmKunEdit.h"
+#include "output/ui/frmColorEnv.h"
 
 #include "output/ui/BottomBar.h"
 #include "output/ui/PageCache.h"
@@ -241,6 +243,11 @@ void mdiMother::buildMenus()
     }
     settings->addAction(QStringLiteral("R&egional Settings..."), this, &mdiMother::regionalSettingsRequested)
         ->setObjectName(QStringLiteral("mnuSetRegion"));
+    settings->addSeparator();
+    settings->addAction(QStringLiteral("&Kundli Style..."), this, &mdiMother::ShowChartStyle)
+        ->setObjectName(QStringLiteral("mnuSettingsKundStyle"));
+    settings->addAction(QStringLiteral("&Page Designer..."), this, &mdiMother::ShowPageDesigner)
+        ->setObjectName(QStringLiteral("mnuPageDesigner"));
 
     m_tools = addToolBar(QStringLiteral("Tools"));
     m_tools->setObjectName(QStringLiteral("tbMain"));
@@ -442,6 +449,29 @@ void mdiMother::ShowTopic(int index)
     }
     setWindowTitle(QStringLiteral("Orbanta-") + cmbTopic->itemText(index));
     QApplication::restoreOverrideCursor();
+}
+
+void mdiMother::ShowChartStyle()
+{
+    frmKunEdit editor(this);
+    if (editor.exec() == QDialog::Accepted)
+        reloadLook();
+}
+
+void mdiMother::ShowPageDesigner()
+{
+    frmColorEnv designer(this);
+    if (designer.exec() == QDialog::Accepted)
+        reloadLook();
+}
+
+void mdiMother::reloadLook()
+{
+    // A page takes its look when it loads: the open pages are made again in the new look.
+    if (!m_active)
+        return;
+    UnloadPages();
+    ShowTopic(cmbTopic->currentIndex());
 }
 
 void mdiMother::UnloadPages()

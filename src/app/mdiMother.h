@@ -58,6 +58,9 @@ public:
     void ShowTopic(int index);
     // Releases every loaded page; the current topic is shown again with fresh pages.
     void UnloadPages();
+    // The chart style editor and the page designer; a saved change shows on the open topic at once.
+    void ShowChartStyle();
+    void ShowPageDesigner();
     void ToggleSideList();
     // The print screen over the session's topics; "Export PDF" is the same screen in its PDF mode.
     void PrintIt();
@@ -104,6 +107,7 @@ private:
     // The print screen in mode 1 (print) or 3 (PDF); the pages are made afresh afterwards.
     void runPrintScreen(int mode);
     void step(int by);
+    void reloadLook();
     // The reading of the session's year, with a message when it can't be cast.
     void makeYear();
     QStackedWidget *m_stack;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "chartdraw/ui/Kundali.h"
 
+#include "chartdraw/ChartLook.h"
 #include "sky/AppSettings.h"
-#include "session/clsIni.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -21,20 +21,6 @@ QRectF toDevice(const KundaliRect &r, const QRectF &target)
     return {target.left() + r.left * sx, target.top() + r.top * sy, r.width * sx, r.height * sy};
 }
 
-QColor iniColor(const char *key, const QColor &def)
-{
-    const QString v = clsIni::GetIniString(QString::fromLatin1(key), QString(), QStringLiteral("KUNCOLOR"));
-    bool ok = false;
-    const qint64 n = v.trimmed().toLongLong(&ok);
-    return ok ? Kundali::ColorFromLong(n) : def;
-}
-
-int iniNumber(const char *key, int def)
-{
-    bool ok = false;
-    const int n = clsIni::GetIniString(QString::fromLatin1(key), QString(), QStringLiteral("KUNCOLOR")).trimmed().toInt(&ok);
-    return ok ? n : def;
-}
 } // namespace
 
 QStringList WrapWords(const QString &text, const QFontMetricsF &fm, double width)
@@ -73,6 +59,11 @@ QColor Kundali::ColorFromLong(qint64 value)
                   static_cast<int>((value >> 16) & 0xFF));
 }
 
+qint64 Kundali::LongFromColor(const QColor &c)
+{
+    return static_cast<qint64>(c.red()) | static_cast<qint64>(c.green()) << 8 | static_cast<qint64>(c.blue()) << 16;
+}
+
 QFont Kundali::FontForDevice(const QFont &f, const QPainter &p)
 {
     QFont out = f;
@@ -89,26 +80,40 @@ Kundali::Kundali(QWidget *parent) : QWidget(parent)
     m_houseFont = font();
     m_planetFont = font();
     m_foreColor = palette().color(QPalette::ButtonText);
-    // Every chart starts with the user's style and colours; an absent key keeps the plain look.
+    // The style is taken when the chart is made: its cells are filled for that style. The widths
+    // and colours are read at each paint.
     m_model.setChartStyle(AppSettings::KundStyle());
-    m_lineWidth = qMax(1, iniNumber("KunLineWidth", 1));
-    m_borderWidth = qMax(1, iniNumber("KunBorderWidth", 1));
-    m_backColor = iniColor("KunBackColor", Qt::white);
-    m_lineColor = iniColor("KunLineColor", Qt::black);
-    m_borderColor = iniColor("KunBorderColor", Qt::black);
-    m_textColor = iniColor("KunTxtColor", Qt::black);
-    m_numberColor = iniColor("KunNumColor", QColor(0x80, 0, 0));
 }
 
-void Kundali::setBackColor(const QColor &c) { m_backColor = c, update(); }
+qint64 Kundali::lookValue(int k) const
+{
+    const auto &own = m_own[static_cast<size_t>(k)];
+    return own ? *own : ChartLook::Current()[static_cast<ChartLook::Key>(k)];
+}
+
+void Kundali::setOwn(int k, qint64 value)
+{
+    m_own[static_cast<size_t>(k)] = value;
+    update();
+}
+
+QColor Kundali::BackColor() const { return ColorFromLong(lookValue(ChartLook::BackColor)); }
+QColor Kundali::LineColor() const { return ColorFromLong(lookValue(ChartLook::LineColor)); }
+QColor Kundali::BorderColor() const { return ColorFromLong(lookValue(ChartLook::BorderColor)); }
+QColor Kundali::TextColor() const { return ColorFromLong(lookValue(ChartLook::TxtColor)); }
+QColor Kundali::NumberColor() const { return ColorFromLong(lookValue(ChartLook::NumColor)); }
+int Kundali::LineWidth() const { return qMax<int>(1, static_cast<int>(lookValue(ChartLook::LineWidth))); }
+int Kundali::BorderWidth() const { return qMax<int>(1, static_cast<int>(lookValue(ChartLook::BorderWidth))); }
+
+void Kundali::setBackColor(const QColor &c) { setOwn(ChartLook::BackColor, LongFromColor(c)); }
+void Kundali::setLineColor(const QColor &c) { setOwn(ChartLook::LineColor, LongFromColor(c)); }
+void Kundali::setBorderColor(const QColor &c) { setOwn(ChartLook::BorderColor, LongFromColor(c)); }
+void Kundali::setTextColor(const QColor &c) { setOwn(ChartLook::TxtColor, LongFromColor(c)); }
+void Kundali::setNumberColor(const QColor &c) { setOwn(ChartLook::NumColor, LongFromColor(c)); }
+void Kundali::setLineWidth(int w) { setOwn(ChartLook::LineWidth, w <= 0 ? 1 : w); }
+void Kundali::setBorderWidth(int w) { setOwn(ChartLook::BorderWidth, w <= 0 ? 1 : w); }
 void Kundali::setHouseFont(const QFont &f) { m_houseFont = f, update(); }
 void Kundali::setPlanetFont(const QFont &f) { m_planetFont = f, update(); }
-void Kundali::setLineColor(const QColor &c) { m_lineColor = c, update(); }
-void Kundali::setLineWidth(int w) { m_lineWidth = w <= 0 ? 1 : w, update(); }
-void Kundali::setBorderWidth(int w) { m_borderWidth = w <= 0 ? 1 : w, update(); }
-void Kundali::setBorderColor(const QColor &c) { m_borderColor = c, update(); }
-void Kundali::setTextColor(const QColor &c) { m_textColor = c, update(); }
-void Kundali::setNumberColor(const QColor &c) { m_numberColor = c, update(); }
 void Kundali::setCentrePic(const QPixmap &p) { m_centrePic = p, update(); }
 void Kundali::setHouseNumber(int sign) { m_model.setHouseNumber(sign), update(); }
 void Kundali::setChartStyle(int style) { m_model.setChartStyle(style), update(); }
@@ -120,12 +125,16 @@ void Kundali::paintChart(QPainter &p, const QRectF &target, Surface surface) con
 {
     p.save();
     const bool screen = surface == Surface::Screen;
+    const QColor back = BackColor(), border = BorderColor(), text = TextColor(), number = NumberColor();
+    const int borderWidth = BorderWidth();
     const double unit = target.width() / KundaliModel::kLogical;
     // Widths are told in pixels of the surface the chart stands on; paper and PDF draw in the
     // page's units, where a pixel is one unit.
     const double pixel = 1.0;
-    if (screen)
-        p.fillRect(target, m_backColor);
+    // The background on every surface, so that paper shows the chart as the screen does; a white
+    // chart leaves the paper as it is.
+    if (screen || back != QColor(Qt::white))
+        p.fillRect(target, back);
     p.setRenderHint(QPainter::Antialiasing, true);
 
     if (screen && !m_centrePic.isNull())
@@ -133,11 +142,11 @@ void Kundali::paintChart(QPainter &p, const QRectF &target, Surface surface) con
 
     // The border first, then the lines, then the boxes.
     p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(m_borderColor, m_borderWidth * pixel));
-    p.drawRect(toDevice(KundaliModel::border(m_borderWidth), target));
+    p.setPen(QPen(border, borderWidth * pixel));
+    p.drawRect(toDevice(KundaliModel::border(borderWidth), target));
 
-    const QColor lineColor = surface == Surface::Printer ? QColor(Qt::black) : m_lineColor;
-    const double lineWidth = surface == Surface::Printer ? pixel * 10.0 / 15.0 : m_lineWidth * pixel;
+    const QColor lineColor = surface == Surface::Printer ? QColor(Qt::black) : LineColor();
+    const double lineWidth = surface == Surface::Printer ? pixel * 10.0 / 15.0 : LineWidth() * pixel;
     p.setPen(QPen(lineColor, lineWidth));
     for (int i = 0; i < KundaliModel::kLines; ++i) {
         if (!m_model.lineVisible(i))
@@ -151,7 +160,7 @@ void Kundali::paintChart(QPainter &p, const QRectF &target, Surface surface) con
     if (surface == Surface::Pdf && planetFont.family() == QLatin1String("MS Sans Serif"))
         planetFont.setFamily(QStringLiteral("Arial"));
     p.setFont(planetFont);
-    p.setPen(m_textColor);
+    p.setPen(text);
     const QFontMetricsF fm(planetFont, p.device());
     for (int i = 0; i < KundaliModel::kCells; ++i) {
         const QString &text = m_model.cellText(i);
@@ -182,8 +191,8 @@ void Kundali::paintChart(QPainter &p, const QRectF &target, Surface surface) con
         const QString caption = m_model.houseNoCaption(i);
         const QPointF at(target.left() + box->left * unit, target.top() + box->top * unit);
         if (m_model.houseNoOpaque())
-            p.fillRect(QRectF(at, QSizeF(hm.horizontalAdvance(caption) + 2, hm.height())), m_backColor);
-        p.setPen(m_numberColor);
+            p.fillRect(QRectF(at, QSizeF(hm.horizontalAdvance(caption) + 2, hm.height())), back);
+        p.setPen(number);
         p.drawText(QPointF(at.x() + 1, at.y() + hm.ascent()), caption);
     }
     p.restore();

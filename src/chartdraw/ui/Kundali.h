@@ -10,6 +10,9 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <array>
+#include <optional>
+
 class QPainter;
 
 class Kundali : public QWidget
@@ -23,7 +26,12 @@ public:
     // A font whose size means the same on any paint device as it does on screen.
     static QFont FontForDevice(const QFont &f, const QPainter &p);
 
-    QColor BackColor() const { return m_backColor; }
+    // The colour number of a colour, 0x00BBGGRR.
+    static qint64 LongFromColor(const QColor &c);
+
+    // The look properties follow the user's saved chart look (ChartLook) at every paint, until a
+    // caller sets one: from then on that property is the chart's own.
+    QColor BackColor() const;
     void setBackColor(const QColor &c);
     QColor ForeColor() const { return m_foreColor; }
     void setForeColor(const QColor &c) { m_foreColor = c; }
@@ -31,17 +39,17 @@ public:
     void setHouseFont(const QFont &f);
     QFont PlanetFont() const { return m_planetFont; }
     void setPlanetFont(const QFont &f);
-    QColor LineColor() const { return m_lineColor; }
+    QColor LineColor() const;
     void setLineColor(const QColor &c);
-    int LineWidth() const { return m_lineWidth; }
+    int LineWidth() const;
     void setLineWidth(int w);
-    int BorderWidth() const { return m_borderWidth; }
+    int BorderWidth() const;
     void setBorderWidth(int w);
-    QColor BorderColor() const { return m_borderColor; }
+    QColor BorderColor() const;
     void setBorderColor(const QColor &c);
-    QColor TextColor() const { return m_textColor; }
+    QColor TextColor() const;
     void setTextColor(const QColor &c);
-    QColor NumberColor() const { return m_numberColor; }
+    QColor NumberColor() const;
     void setNumberColor(const QColor &c);
     QPixmap CentrePic() const { return m_centrePic; }
     void setCentrePic(const QPixmap &p);
@@ -104,17 +112,14 @@ protected:
 
 private:
     QPointF logical(const QPointF &pos) const;
+    // The value of look key k: the chart's own when set, else the saved look's.
+    qint64 lookValue(int k) const;
+    void setOwn(int k, qint64 value);
     KundaliModel m_model;
-    QColor m_backColor;
     QColor m_foreColor;
     QFont m_houseFont;
     QFont m_planetFont;
-    QColor m_lineColor{Qt::black};
-    int m_lineWidth = 1;
-    int m_borderWidth = 1;
-    QColor m_borderColor{Qt::black};
-    QColor m_textColor{Qt::black};
-    QColor m_numberColor{Qt::black};
+    std::array<std::optional<qint64>, 7> m_own; // by ChartLook::Key
     QPixmap m_centrePic;
 };
 

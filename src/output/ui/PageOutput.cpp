@@ -17,6 +17,8 @@
 #include <QTextDocument>
 #include <QTextEdit>
 
+#include <optional>
+
 namespace {
 constexpr double kTwip = 1.0 / 15.0; // a twip in form pixels
 // The emblem of the header: any glyph serves; this one is in the fonts every installation has.
@@ -31,6 +33,17 @@ void printerFailed()
 }
 
 QColor textColour(const QLabel &l) { return l.palette().color(QPalette::WindowText); }
+// The background a label paints under its text (the cells of a table in their scheme's colour);
+// white paper needs none.
+std::optional<QColor> labelBack(const QLabel &l)
+{
+    if (!l.autoFillBackground())
+        return std::nullopt;
+    const QColor c = l.palette().color(QPalette::Window);
+    if (c == QColor(Qt::white) || c.alpha() == 0)
+        return std::nullopt;
+    return c;
+}
 
 // Direct children of a page in the order they were made.
 QList<QWidget *> partsOf(const TopicPage &form)
@@ -178,9 +191,11 @@ void clsPrintMaker::PrintLabel(const QLabel &l)
     m_p.save();
     const QFont font = Kundali::FontForDevice(l.font(), m_p);
     m_p.setFont(font);
+    const QRectF box(l.x(), l.y() + kTopOffset, l.width(), l.height());
+    if (const auto back = labelBack(l))
+        m_p.fillRect(box, *back);
     m_p.setPen(textColour(l));
     const QFontMetricsF fm(font, m_p.device());
-    const QRectF box(l.x(), l.y() + kTopOffset, l.width(), l.height());
     const QStringList lines = LabelLines(l.text(), [&fm](const QString &t) { return fm.horizontalAdvance(t); }, box.width());
     // Labels centred upright on screen stay so on paper.
     double y = box.top();
@@ -279,6 +294,8 @@ void clsPDFExporter::PrintLabel(const QLabel &l)
     const double left = l.x() * kUnit, top = l.y() * kUnit;
     const double right = (l.x() + l.width()) * kUnit, bottom = (l.y() + l.height()) * kUnit;
     if (!l.isHidden()) {
+        if (const auto back = labelBack(l); back && m_surface.painter())
+            m_surface.painter()->fillRect(QRectF(left, top, right - left, bottom - top), *back);
         double y = top;
         if (l.alignment() & Qt::AlignVCenter) {
             const int lines = static_cast<int>(

@@ -3,20 +3,11 @@
 
 #include "chartdraw/ui/Kundali.h"
 #include "session/Session.h"
-#include "session/clsIni.h"
+#include "output/Themes.h"
 
 #include <QLabel>
 
 namespace {
-QColor pageColor(const char *key, qint64 def)
-{
-    bool ok = false;
-    const qint64 v = clsIni::GetIniString(QString::fromLatin1(key), QString::number(def), QStringLiteral("PAGECOLORS"))
-                         .trimmed()
-                         .toLongLong(&ok);
-    return Kundali::ColorFromLong(ok ? v : def);
-}
-
 void style(QLabel *l, int size, bool bold, const QColor &colour)
 {
     QFont f(QString::fromLatin1(kPageFont));
@@ -32,23 +23,10 @@ void style(QLabel *l, int size, bool bold, const QColor &colour)
 namespace {
 PageColors readPageColors()
 {
-    PageColors c;
-    c.TopLineCol = pageColor("TopLineCol", 0);
-    c.TopLogoBackCol = pageColor("TopLogoBackCol", 16777215);
-    c.TopLogoCol = pageColor("TopLogoCol", 0);
-    c.PerNameCol = pageColor("PerNameCol", 0);
-    c.FrontLogoCol = pageColor("FrontLogoCol", 0);
-    c.FrontLogoBackCol = pageColor("FrontLogoBackCol", 16777215);
-    c.HeadingCol = pageColor("HeadingCol", 0);
-    c.SubHeadCol = pageColor("SubHeadCol", 0);
-    c.NormTextCol = pageColor("NormTextCol", 0);
-    c.TableBackCol = pageColor("TableBackCol", 16777215);
-    c.TableHeadCol = pageColor("TableHeadCol", 16777215);
-    c.CompanyNameCol = pageColor("CompanyNameCol", 0);
-    c.CompanyAddressCol = pageColor("CompanyAddressCol", 0);
-    c.CircleBorderCol = pageColor("CircleBorderCol", 0);
-    c.TableHeadText = pageColor("TableHeadText", 0);
-    return c;
+    const Themes::Scheme s = Themes::InForce();
+    const auto c = [&s](int i) { return Kundali::ColorFromLong(s.page(i)); };
+    // In the order of the page keys of the schemes.
+    return PageColors{c(0), c(1), c(2), c(3), c(4), c(5), c(6), c(7), c(8), c(9), c(10), c(11), c(12), c(13), c(14)};
 }
 
 PageColors &cachedColors()
