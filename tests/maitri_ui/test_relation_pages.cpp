@@ -194,7 +194,7 @@ TEST_F(RelationPages, Screenshots)
     clsPDFExporter pdf;
     pdf.filename = file;
     ASSERT_TRUE(pdf.StartExport());
-    Output().PageCounter = 13;
+    Output().PageCounter = 1;
     PageCache pages;
     PageOutput output(nullptr, nullptr, &pdf);
     WalkSteps(SelectedSteps(1, false, {"Sudarshan"}), pages, output);
