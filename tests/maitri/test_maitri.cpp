@@ -65,19 +65,6 @@ TEST_F(Relations, JupiterAndRahuAreFriendsHereButNotInTheStrengthTables)
         }
 }
 
-TEST_F(Relations, NoRelationOfAPlanetWithItselfOrOutsideTheNine)
-{
-    placeByHand();
-    const Maitri m(chart);
-    for (int p = 1; p <= 9; ++p) {
-        EXPECT_FALSE(m.Natural(p, p).has_value());
-        EXPECT_FALSE(m.FiveFold(p, p).has_value());
-    }
-    EXPECT_FALSE(m.FiveFold(0, 1).has_value());
-    EXPECT_FALSE(m.FiveFold(1, 10).has_value());
-    EXPECT_TRUE(Maitri::FiveFoldHead(3).isEmpty());
-}
-
 TEST_F(Relations, JsonGivesTheFiveFoldMatrixRowByRow)
 {
     placeByHand();
