@@ -19,6 +19,9 @@
 #include "sky/pages/frmSodash.h"
 #include "strength/pages/frmAshtak.h"
 #include "strength/pages/frmBhav.h"
+#include "strength/pages/frmKaraka.h"
+#include "strength/pages/frmMaitri.h"
+#include "strength/pages/frmSudarshan.h"
 #include "strength/pages/frmShadbala.h"
 #include "text/pages/ReadingPage.h"
 #include "text/pages/frmConj.h"
@@ -50,6 +53,9 @@ void RegisterTopicPages()
     RegisterTopicPage(QStringLiteral("frmBhinnaAshtak"), bhinna<1>);
     RegisterTopicPage(QStringLiteral("frmBhinnaAshtak2"), bhinna<2>);
     page<frmAshtak>("frmAshtak");
+    page<frmMaitri>("frmMaitri");
+    page<frmSudarshan>("frmSudarshan");
+    page<frmKaraka>("frmKaraka");
     page<frmShadbala>("frmShadbala");
     page<frmVimsot>("frmVimsot");
     page<frmPratyan>("frmPratyan");

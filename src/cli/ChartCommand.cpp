@@ -7,6 +7,7 @@
 #include "sky/Functions.h"
 #include "sky/MessageSink.h"
 #include "sky/SunEvents.h"
+#include "strength/Maitri.h"
 #include "strength/clsShadBala.h"
 #include "yoga/CheckYogas.h"
 #include "yoga/clsYoga.h"
@@ -55,6 +56,22 @@ void writeTable(const clsPlanets &chart, QTextStream &out)
                    .arg(clsPlanets::ConvertValNoDeg(l - sign * 30.0), -10)
                    .arg(motion);
     }
+}
+
+// The five-fold friendship of the nine planets, rows and columns 1..9; null on the diagonal.
+QJsonArray maitriJson(const clsPlanets &chart)
+{
+    const Maitri m(chart);
+    QJsonArray rows;
+    for (int a = 1; a <= 9; ++a) {
+        QJsonArray row;
+        for (int b = 1; b <= 9; ++b) {
+            const std::optional<int> v = m.FiveFold(a, b);
+            row.append(v ? QJsonValue(*v) : QJsonValue(QJsonValue::Null));
+        }
+        rows.append(row);
+    }
+    return rows;
 }
 
 } // namespace
@@ -144,6 +161,7 @@ QJsonObject ChartCastJson(const clsPlanets &chart)
     o.insert(QStringLiteral("yogas"), yogas);
     o.insert(QStringLiteral("catalogue"), QJsonArray::fromStringList(clsYoga(chart).CatalogueHolds()));
     o.insert(QStringLiteral("ashtakavarga"), QJsonObject{{QStringLiteral("varga"), ashVarga}, {QStringLiteral("total"), ashTotal}});
+    o.insert(QStringLiteral("maitri"), maitriJson(chart));
     return o;
 }
 

@@ -13,7 +13,7 @@ int RunChartCommand(const QStringList &args, QTextStream &out, QTextStream &err)
 // The JSON object that "chart --json" prints for a cast chart: the two below together.
 QJsonObject ChartJson(const clsPlanets &chart);
 // The members read from the cast itself: person, positions, houses, panchang, divisions,
-// Vimshottari, Ashtakavarga, yogas.
+// Vimshottari, Ashtakavarga, yogas, the five-fold friendship (maitri).
 QJsonObject ChartCastJson(const clsPlanets &chart);
 // The "person" member of ChartCastJson: name, day, month, year, hour, minutes.
 QJsonObject PersonJson(const clsPerson &person);

@@ -60,6 +60,8 @@ const std::map<QString, Range> &ranges()
         {"ashtakavarga.varga", {0, 8, true}},
         {"ashtakavarga.total", {0, 56, true}},
         {"shadbala.planet", {1, 7, true}},
+        // The five-fold friendship; a planet has none with itself.
+        {"maitri", {-2, 2, true, true}},
         {"person.month", {1, 12, true}},
         {"person.day", {1, 31, true}},
         {"person.hour", {0, 24, true}}, // a moment that comes back to midnight stays 24.00 of the day before

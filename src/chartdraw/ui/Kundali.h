@@ -84,9 +84,10 @@ public:
     KundaliModel &model() { return m_model; }
     const KundaliModel &model() const { return m_model; }
 
-    // Paints the chart into target on any painter (used by the three surfaces above).
+    // Paints the chart into target on any painter (used by the three surfaces above). A wheel of
+    // another layout (the Sudarshan chakra) paints itself here and so reaches every surface alike.
     enum class Surface { Screen, Printer, Pdf };
-    void paintChart(QPainter &p, const QRectF &target, Surface surface) const;
+    virtual void paintChart(QPainter &p, const QRectF &target, Surface surface) const;
 
     QSize sizeHint() const override { return {300, 300}; }
 
