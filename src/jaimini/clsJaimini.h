@@ -100,7 +100,7 @@ public:
     // Refills the drekkana table for the mode, then returns the entry of planet p (0..9).
     // Modes other than 2 and 3 leave the table as it was.
     int JmnDrkSign(int p, int mode) const;
-    // Navamsha sign of the Lagna's planet-style Navamsha: NavamshSign of the chart.
+    // Navamsha sign of p by arithmetic (the chart's NavamshSign).
     int NavamshSign(int p) const;
     // Krishna Mishra Navamsha sign of p.
     int kmNavSign(int p) const;
@@ -135,7 +135,6 @@ public:
     // which 1..3; kind 1 Beeja, otherwise Kshetra.
     double SphutasLongi(int which, int kind) const;
     int SphutasConcl(int which, int kind) const;
-    QString ResOfTrpLagna() const;
 
     // ---- Sign aspects ----
     // Signs a and b aspect each other by the sign aspect table.
@@ -199,12 +198,16 @@ private:
     void FillHouseVarnada();
     void FillJmnDrk(int mode) const;
     static int varnadaOf(int s, int h);
+    // Sign of a longitude, Fix(x / 30) + 1, with 360 itself (13) counted as 12.
+    static int signOfLongi(double x);
+    int karakaRank(int i, int count) const;
+    int yogadaPlanet() const;
     double ghatikaRatio() const;
     void sunrises() const;
     double yogaLongi(double base) const;
     int houseWinner(int a, int b) const;
     int parityStep(int x, int y) const;
-    int lordLadder(int x, int y, bool weightForFirstOnTie) const;
+    int lordLadder(int x, int y) const;
     int coLord(int main, int node, int sign) const;
 
     const clsPlanets &m_chart;
