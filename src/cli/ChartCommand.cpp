@@ -3,6 +3,8 @@
 
 #include "cli/BirthOptions.h"
 #include "dasha/clsDashaVimshottari.h"
+#include "jaimini/JaiminiDashaJson.h"
+#include "jaimini/clsJaimini.h"
 #include "muhurtha/clsSadeSati.h"
 #include "sky/Functions.h"
 #include "sky/MessageSink.h"
@@ -200,6 +202,8 @@ QJsonObject ChartJson(const clsPlanets &chart)
     const QJsonObject day = ChartDayJson(chart);
     for (auto it = day.begin(); it != day.end(); ++it)
         o.insert(it.key(), it.value());
+    // Last, so that the sign dashas join whatever else the "jaimini" object holds.
+    AddJaiminiDashasJson(o, clsJaimini(chart));
     return o;
 }
 
