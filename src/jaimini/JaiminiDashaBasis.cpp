@@ -35,6 +35,7 @@ public:
     {
         return mode == 1 ? m_core.Chart().PrediVarga(p, 3) : m_core.JmnDrkSign(p, mode);
     }
+    int HoraLagna(int mode) const override { return m_core.HoraLagna(mode); }
     int FrontalSign(int p) const override { return m_core.FrontalSign(p); }
     int ArudhaLagna(int mode) const override { return m_core.ArudhaLagna(mode); }
     int NavamshSign(int p) const override { return m_core.NavamshSign(p); }

@@ -37,6 +37,8 @@ public:
     virtual int LordOfScorpio() const = 0;
     // Drekkana sign of planet p: mode 1 the ordinary drekkana, 2 Parivritti Traya, 3 Somanath.
     virtual int DrekkanaSign(int p, int mode) const = 0;
+    // Hora Lagna: 1 traditional, 2 Vriddhakarika, 3 Savayava.
+    virtual int HoraLagna(int mode) const = 0;
     // The frontal sign of planet p's sign.
     virtual int FrontalSign(int p) const = 0;
     // Arudha Lagna: 1 popular rule, otherwise conditional.

@@ -535,6 +535,24 @@ JaiminiDashaTable clsJaiminiSystem::fillFrontal(int) const
     return signsOnly(signs, 9);
 }
 
+JaiminiDashaTable clsJaiminiSystem::fillVarnada(int mode) const
+{
+    JaiminiDashaTable t;
+    if (mode == 1)
+        return t;
+    const int lagna = m_basis->LagnaSign();
+    const int first = m_basis->ReckoningPoint(0, wrap(m_basis->HoraLagna(2) - lagna));
+    if (first < 1 || first > 12)
+        return t;
+    const int dir = odd(first) ? 1 : -1;
+    for (int k = 0; k < 12; ++k) {
+        const int s = wrap(first + dir * k);
+        const int S = m_basis->Sign(lordOf(s));
+        t.push_back({s, 0, static_cast<double>(odd(s) ? wrap(S - s) : wrap(s - S))});
+    }
+    return t;
+}
+
 // Two-mode tables keep mode 1 apart and any other mode as 2.
 static int twoModes(int mode)
 {
@@ -596,6 +614,10 @@ const JaiminiDashaTable &clsJaiminiSystem::Navamsha() const
 const JaiminiDashaTable &clsJaiminiSystem::Frontal() const
 {
     return memo(Table::Frontal, 0, &clsJaiminiSystem::fillFrontal);
+}
+const JaiminiDashaTable &clsJaiminiSystem::Varnada(int mode) const
+{
+    return memo(Table::Varnada, twoModes(mode), &clsJaiminiSystem::fillVarnada);
 }
 
 // ---- Readers ----
@@ -675,5 +697,6 @@ std::vector<JaiminiDashaEntry> clsJaiminiSystem::AllDashas() const
     add("trine", false, Trine());
     add("navamsha", false, Navamsha());
     add("frontal", false, Frontal());
+    add("varnada_2", false, Varnada(2));
     return out;
 }

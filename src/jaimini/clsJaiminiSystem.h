@@ -2,7 +2,7 @@
 #pragma once
 // The Jaimini sign dashas of one chart: the Chara dasha in its two schools (RBNS and NLKT),
 // Sthira, Drig, Mandook, Yogardha, Karaka, Upa-Karaka, Drekkana, the two Paryayas, and the Trine,
-// Navamsha and Frontal dashas. Each is a table of rows (a sign, sometimes a planet, a length in
+// Navamsha, Frontal and Varnada dashas. Each is a table of rows (a sign, sometimes a planet, a length in
 // years); the tables carry no dates. The RBNS, Sthira and Drig tables are made with the object,
 // the others on first use, and every table is kept for the life of the object.
 
@@ -113,6 +113,8 @@ public:
     const JaiminiDashaTable &Trine() const;
     const JaiminiDashaTable &Navamsha() const;
     const JaiminiDashaTable &Frontal() const;
+    // Mode 2 from the stronger of the Lagna and the Hora Lagna; mode 1 has no rule and no rows.
+    const JaiminiDashaTable &Varnada(int mode) const;
 
     // ---- Readers of one cell: what 1 the sign, 2 the planet (tables with one), 3 the years ----
     // Row from 1; an unknown what, a row out of range or a mode with no table give an empty value.
@@ -148,7 +150,8 @@ private:
         SthiraParyaya,
         Trine,
         Navamsha,
-        Frontal
+        Frontal,
+        Varnada
     };
     void build();
     const JaiminiDashaTable &memo(Table t, int mode, JaiminiDashaTable (clsJaiminiSystem::*fill)(int) const) const;
@@ -166,6 +169,7 @@ private:
     JaiminiDashaTable fillTrine(int) const;
     JaiminiDashaTable fillNavamsha(int) const;
     JaiminiDashaTable fillFrontal(int) const;
+    JaiminiDashaTable fillVarnada(int mode) const;
     JaiminiDashaTable quadrantKaraka(int fromSign) const;
     JaiminiDashaTable paryayaRows(const std::vector<int> &signs) const;
     int nlktPlain(int s, int lordSign) const;

@@ -23,6 +23,7 @@ public:
     int lordOfAquarius = 6, lordOfScorpio = 4;
     std::map<std::pair<int, int>, int> drekkana; // (planet, mode) -> sign
     int frontal = 1;
+    int horaLagna = 1;
     int arudha = 1;
     std::array<int, 10> navamsha{}, kmNavamsha{};
     // When set, returned as the quadrant list of any sign; otherwise the list is walked from the signs.
@@ -54,6 +55,7 @@ public:
         const auto it = drekkana.find({p, mode});
         return it != drekkana.end() ? it->second : 0;
     }
+    int HoraLagna(int) const override { return horaLagna; }
     int FrontalSign(int) const override { return frontal; }
     int ArudhaLagna(int) const override { return arudha; }
     int NavamshSign(int p) const override { return navamsha[static_cast<size_t>(p)]; }

@@ -80,7 +80,7 @@ TEST(JaiminiDashasOfACast, ChartJsonListsEveryTable)
     o.flush();
     ASSERT_EQ(status, 0) << err.toStdString();
     const QJsonArray dashas = QJsonDocument::fromJson(out.toUtf8()).object()["jaimini"].toObject()["dashas"].toArray();
-    ASSERT_EQ(dashas.size(), 23);
+    ASSERT_EQ(dashas.size(), 24);
     std::set<QString> keys;
     for (const QJsonValue &d : dashas) {
         const QString key = d["key"].toString();
@@ -98,6 +98,6 @@ TEST(JaiminiDashasOfACast, ChartJsonListsEveryTable)
             EXPECT_EQ(r.toObject().contains("planet"), withPlanet) << key.toStdString();
         }
     }
-    EXPECT_EQ(keys.size(), 23u);
+    EXPECT_EQ(keys.size(), 24u);
     EXPECT_TRUE(keys.count("chara_rbns") && keys.count("chara_nlkt_3") && keys.count("frontal"));
 }
