@@ -12,15 +12,24 @@ constexpr int kRasi = 1, kDrekkana = 3, kNavamsha = 6;
 const char *JaiminiChartHead(JaiminiChart which)
 {
     switch (which) {
-    case JaiminiChart::Janma: return "JanmaLagna";
-    case JaiminiChart::DrekTrad: return "DrekTrad";
-    case JaiminiChart::DrekPrav: return "DrekPrav";
-    case JaiminiChart::DrekSom: return "DrekSom";
-    case JaiminiChart::NavTrad: return "NavTrad";
-    case JaiminiChart::NavKri: return "NavKri";
-    case JaiminiChart::Upapada: return "UpapadaLagna";
-    case JaiminiChart::Karakamsa: return "KarakLagna";
-    case JaiminiChart::Arudha: return "ArudTrad";
+    case JaiminiChart::Janma:
+        return "JanmaLagna";
+    case JaiminiChart::DrekTrad:
+        return "DrekTrad";
+    case JaiminiChart::DrekPrav:
+        return "DrekPrav";
+    case JaiminiChart::DrekSom:
+        return "DrekSom";
+    case JaiminiChart::NavTrad:
+        return "NavTrad";
+    case JaiminiChart::NavKri:
+        return "NavKri";
+    case JaiminiChart::Upapada:
+        return "UpapadaLagna";
+    case JaiminiChart::Karakamsa:
+        return "KarakLagna";
+    case JaiminiChart::Arudha:
+        return "ArudTrad";
     }
     return "";
 }
@@ -29,15 +38,24 @@ int JaiminiChartLagna(const clsJaimini &jm, JaiminiChart which)
 {
     const clsPlanets &c = jm.Chart();
     switch (which) {
-    case JaiminiChart::Janma: return jm.Sign(0);
-    case JaiminiChart::DrekTrad: return c.PrediVarga(0, kDrekkana);
-    case JaiminiChart::DrekPrav: return jm.DrekkanaLagna(2);
-    case JaiminiChart::DrekSom: return jm.DrekkanaLagna(3);
-    case JaiminiChart::NavTrad: return jm.NavamshSign(0);
-    case JaiminiChart::NavKri: return jm.NavamshLagna(2);
-    case JaiminiChart::Upapada: return jm.UpaPadaLagna(1);
-    case JaiminiChart::Karakamsa: return jm.KarakamsaLagna();
-    case JaiminiChart::Arudha: return jm.ArudhaLagna(1);
+    case JaiminiChart::Janma:
+        return jm.Sign(0);
+    case JaiminiChart::DrekTrad:
+        return c.PrediVarga(0, kDrekkana);
+    case JaiminiChart::DrekPrav:
+        return jm.DrekkanaLagna(2);
+    case JaiminiChart::DrekSom:
+        return jm.DrekkanaLagna(3);
+    case JaiminiChart::NavTrad:
+        return jm.NavamshSign(0);
+    case JaiminiChart::NavKri:
+        return jm.NavamshLagna(2);
+    case JaiminiChart::Upapada:
+        return jm.UpaPadaLagna(1);
+    case JaiminiChart::Karakamsa:
+        return jm.KarakamsaLagna();
+    case JaiminiChart::Arudha:
+        return jm.ArudhaLagna(1);
     }
     return 0;
 }
@@ -46,15 +64,21 @@ int JaiminiChartSign(const clsJaimini &jm, JaiminiChart which, int p)
 {
     const clsPlanets &c = jm.Chart();
     switch (which) {
-    case JaiminiChart::DrekTrad: return c.PrediVarga(p, kDrekkana);
-    case JaiminiChart::DrekPrav: return jm.JmnDrkSign(p, 2);
-    case JaiminiChart::DrekSom: return jm.JmnDrkSign(p, 3);
+    case JaiminiChart::DrekTrad:
+        return c.PrediVarga(p, kDrekkana);
+    case JaiminiChart::DrekPrav:
+        return jm.JmnDrkSign(p, 2);
+    case JaiminiChart::DrekSom:
+        return jm.JmnDrkSign(p, 3);
     case JaiminiChart::NavTrad:
-    case JaiminiChart::Karakamsa: return c.PrediVarga(p, kNavamsha);
-    case JaiminiChart::NavKri: return jm.kmNavSign(p);
+    case JaiminiChart::Karakamsa:
+        return c.PrediVarga(p, kNavamsha);
+    case JaiminiChart::NavKri:
+        return jm.kmNavSign(p);
     case JaiminiChart::Janma:
     case JaiminiChart::Upapada:
-    case JaiminiChart::Arudha: return c.PrediVarga(p, kRasi);
+    case JaiminiChart::Arudha:
+        return c.PrediVarga(p, kRasi);
     }
     return 0;
 }

@@ -12,9 +12,9 @@ enum class JaiminiChart { Janma, DrekTrad, DrekPrav, DrekSom, NavTrad, NavKri, U
 
 // The charts in the order of the Jaimini charts page, with the text key of each title
 // (category "Jaimini").
-inline constexpr std::array<JaiminiChart, 9> kJaiminiCharts{JaiminiChart::Janma,   JaiminiChart::DrekTrad, JaiminiChart::DrekPrav,
-                                                           JaiminiChart::DrekSom, JaiminiChart::NavTrad,  JaiminiChart::NavKri,
-                                                           JaiminiChart::Upapada, JaiminiChart::Karakamsa, JaiminiChart::Arudha};
+inline constexpr std::array<JaiminiChart, 9> kJaiminiCharts{
+    JaiminiChart::Janma,  JaiminiChart::DrekTrad, JaiminiChart::DrekPrav,  JaiminiChart::DrekSom, JaiminiChart::NavTrad,
+    JaiminiChart::NavKri, JaiminiChart::Upapada,  JaiminiChart::Karakamsa, JaiminiChart::Arudha};
 const char *JaiminiChartHead(JaiminiChart which);
 
 // The rising sign of the chart, and the sign in it of planet p (1..9).

@@ -33,5 +33,6 @@ QJsonObject JaiminiJson(const clsJaimini &jm)
     for (int h = 1; h <= 12; ++h)
         padas.append(jm.JaiminiPadaSign(h, 1));
 
-    return QJsonObject{{QStringLiteral("karakas"), karakas}, {QStringLiteral("lagnas"), lagnas}, {QStringLiteral("padas"), padas}};
+    return QJsonObject{
+        {QStringLiteral("karakas"), karakas}, {QStringLiteral("lagnas"), lagnas}, {QStringLiteral("padas"), padas}};
 }

@@ -11,11 +11,16 @@
 #include <cmath>
 
 namespace {
-bool odd(int s) { return s % 2 != 0; }
+bool odd(int s)
+{
+    return s % 2 != 0;
+}
 
 // The Somanath drekkana: the 24 spans of 10 degrees of a 240-degree round, from 0.
+// clang-format off
 inline constexpr std::array<int, 24> kSomanathSign{1, 2, 3, 12, 11, 10, 4, 5, 6, 9, 8, 7,
                                                    7, 8, 9, 6, 5, 4, 10, 11, 12, 3, 2, 1};
+// clang-format on
 static_assert(kSomanathSign.size() == 24);
 
 // Kala numbers of the Indu Lagna, planets 1..7 (Sun, Mercury, Venus, Mars, Jupiter, Saturn, Moon).
@@ -32,16 +37,46 @@ clsJaimini::clsJaimini(const clsPlanets &chart) : m_chart(chart)
 
 // ---- the chart ----
 
-int clsJaimini::Sign(int n) const { return m_chart.Sign(n); }
-int clsJaimini::SignLord(int s) { return clsPlanets::GetRashiLordNum(s); }
-double clsJaimini::PlanetLongi(int n) const { return m_chart.PlanetLongi(n); }
-double clsJaimini::KrishAmsha(int n) const { return m_chart.KrishAmsha(n); }
-bool clsJaimini::Exalted(int p) const { return m_chart.Exalted(p); }
-bool clsJaimini::Debilitated(int p) const { return m_chart.Debilitated(p); }
-int clsJaimini::Sex() const { return m_chart.Person().Sex(); }
-int clsJaimini::Clock12(int x) { return Norm12(x); }
-int clsJaimini::ConstClsOfSigns(int n) const { return SignClass(Sign(n)); }
-int clsJaimini::NavamshSign(int p) const { return m_chart.NavamshSign(p); }
+int clsJaimini::Sign(int n) const
+{
+    return m_chart.Sign(n);
+}
+int clsJaimini::SignLord(int s)
+{
+    return clsPlanets::GetRashiLordNum(s);
+}
+double clsJaimini::PlanetLongi(int n) const
+{
+    return m_chart.PlanetLongi(n);
+}
+double clsJaimini::KrishAmsha(int n) const
+{
+    return m_chart.KrishAmsha(n);
+}
+bool clsJaimini::Exalted(int p) const
+{
+    return m_chart.Exalted(p);
+}
+bool clsJaimini::Debilitated(int p) const
+{
+    return m_chart.Debilitated(p);
+}
+int clsJaimini::Sex() const
+{
+    return m_chart.Person().Sex();
+}
+int clsJaimini::Clock12(int x)
+{
+    return Norm12(x);
+}
+int clsJaimini::ConstClsOfSigns(int n) const
+{
+    return SignClass(Sign(n));
+}
+int clsJaimini::NavamshSign(int p) const
+{
+    return m_chart.NavamshSign(p);
+}
 
 int clsJaimini::signOfLongi(double x)
 {
@@ -128,7 +163,10 @@ double clsJaimini::GhatikaLagnaLongi() const
     return Norm360((Sign(0) - 1) * 30 + ::Clock12(g) * 30);
 }
 
-int clsJaimini::GhatikaLagnaSign() const { return signOfLongi(GhatikaLagnaLongi()); }
+int clsJaimini::GhatikaLagnaSign() const
+{
+    return signOfLongi(GhatikaLagnaLongi());
+}
 
 int clsJaimini::SapadaGhatikaLagna() const
 {
@@ -157,19 +195,37 @@ double clsJaimini::PranapadaLongi() const
     }
 }
 
-int clsJaimini::PranaPadaSign() const { return signOfLongi(PranapadaLongi()); }
+int clsJaimini::PranaPadaSign() const
+{
+    return signOfLongi(PranapadaLongi());
+}
 
 namespace {
 // The Moon's degrees within its nakshatra.
-double moonInStar(const clsPlanets &c) { return c.PlanetLongi(7) - (c.NakOf(7) - 1) * 360.0 / 27; }
+double moonInStar(const clsPlanets &c)
+{
+    return c.PlanetLongi(7) - (c.NakOf(7) - 1) * 360.0 / 27;
+}
 } // namespace
 
-double clsJaimini::ShreeLagnaLongi() const { return Norm360(PlanetLongi(0) + 27 * moonInStar(m_chart)); }
-int clsJaimini::ShreeLagna() const { return signOfLongi(ShreeLagnaLongi()); }
+double clsJaimini::ShreeLagnaLongi() const
+{
+    return Norm360(PlanetLongi(0) + 27 * moonInStar(m_chart));
+}
+int clsJaimini::ShreeLagna() const
+{
+    return signOfLongi(ShreeLagnaLongi());
+}
 
-int clsJaimini::TripravanaLagna() const { return signOfLongi(Norm360(PlanetLongi(0) + 2 * PlanetLongi(7))); }
+int clsJaimini::TripravanaLagna() const
+{
+    return signOfLongi(Norm360(PlanetLongi(0) + 2 * PlanetLongi(7)));
+}
 
-int clsJaimini::InduKalaValue(int p) { return p >= 1 && p <= 7 ? kInduKala[static_cast<size_t>(p - 1)] : 0; }
+int clsJaimini::InduKalaValue(int p)
+{
+    return p >= 1 && p <= 7 ? kInduKala[static_cast<size_t>(p - 1)] : 0;
+}
 
 int clsJaimini::InduLagna() const
 {
@@ -189,9 +245,18 @@ int clsJaimini::NakshatraLagna() const
     return clsPlanets::NakLordNum(m_chart.NakOf(7)) == 9 ? Clock12(Sign(0) - n) : Clock12(Sign(0) + n);
 }
 
-int clsJaimini::PakaLagna() const { return Sign(SignLord(Sign(0))); }
-int clsJaimini::Swamsha() const { return NavamshSign(0); }
-int clsJaimini::KarakamsaLagna() const { return m_chart.KarakamsaLagna(); }
+int clsJaimini::PakaLagna() const
+{
+    return Sign(SignLord(Sign(0)));
+}
+int clsJaimini::Swamsha() const
+{
+    return NavamshSign(0);
+}
+int clsJaimini::KarakamsaLagna() const
+{
+    return m_chart.KarakamsaLagna();
+}
 
 // The first planet with a Yogada, else the lord of the Moon's sign.
 int clsJaimini::yogadaPlanet() const
@@ -202,11 +267,26 @@ int clsJaimini::yogadaPlanet() const
     return SubhaPatiGraha();
 }
 
-double clsJaimini::yogaLongi(double base) const { return Norm360(base + PlanetLongi(yogadaPlanet())); }
-double clsJaimini::DivyaLagnaLongi() const { return yogaLongi(PlanetLongi(0)); }
-double clsJaimini::SphutaYogaLagnaLongi() const { return yogaLongi(PlanetLongi(SignLord(Sign(0)))); }
-int clsJaimini::DivyaLagnaSign() const { return signOfLongi(DivyaLagnaLongi()); }
-int clsJaimini::SphutaYogaLagnaSign() const { return signOfLongi(SphutaYogaLagnaLongi()); }
+double clsJaimini::yogaLongi(double base) const
+{
+    return Norm360(base + PlanetLongi(yogadaPlanet()));
+}
+double clsJaimini::DivyaLagnaLongi() const
+{
+    return yogaLongi(PlanetLongi(0));
+}
+double clsJaimini::SphutaYogaLagnaLongi() const
+{
+    return yogaLongi(PlanetLongi(SignLord(Sign(0))));
+}
+int clsJaimini::DivyaLagnaSign() const
+{
+    return signOfLongi(DivyaLagnaLongi());
+}
+int clsJaimini::SphutaYogaLagnaSign() const
+{
+    return signOfLongi(SphutaYogaLagnaLongi());
+}
 
 // ---- varnada ----
 
@@ -239,7 +319,10 @@ int clsJaimini::HouseVarnada(int h) const
     return h >= 1 && h <= 12 ? static_cast<int>(m_houseVarnada[static_cast<size_t>(h - 1)]) : 0;
 }
 
-int clsJaimini::VarnadaXthSign(int h) const { return HouseVarnada(h); }
+int clsJaimini::VarnadaXthSign(int h) const
+{
+    return HouseVarnada(h);
+}
 
 // ---- padas ----
 
@@ -275,8 +358,14 @@ int clsJaimini::JaiminiPadaSign(int h, int mode) const
     return mode == 1 ? m_padaPopular[static_cast<size_t>(h)] : m_padaConditional[static_cast<size_t>(h)];
 }
 
-int clsJaimini::ArudhaLagna(int mode) const { return JaiminiPadaSign(1, mode); }
-int clsJaimini::UpaPadaLagna(int mode) const { return JaiminiPadaSign(12, mode); }
+int clsJaimini::ArudhaLagna(int mode) const
+{
+    return JaiminiPadaSign(1, mode);
+}
+int clsJaimini::UpaPadaLagna(int mode) const
+{
+    return JaiminiPadaSign(12, mode);
+}
 
 // ---- Drekkana and Navamsha variants ----
 
@@ -304,10 +393,19 @@ int clsJaimini::JmnDrkSign(int p, int mode) const
     return p >= 0 && p <= 9 ? static_cast<int>(m_jmnDrk[static_cast<size_t>(p)]) : 0;
 }
 
-int clsJaimini::DrekkanaLagna(int mode) const { return JmnDrkSign(0, mode); }
-int clsJaimini::TraditionalDrekkanaLagna() const { return m_chart.PrediVarga(0, 3); }
+int clsJaimini::DrekkanaLagna(int mode) const
+{
+    return JmnDrkSign(0, mode);
+}
+int clsJaimini::TraditionalDrekkanaLagna() const
+{
+    return m_chart.PrediVarga(0, 3);
+}
 
-int clsJaimini::NavamshLagna(int mode) const { return mode == 2 ? kmNavSign(0) : NavamshSign(0); }
+int clsJaimini::NavamshLagna(int mode) const
+{
+    return mode == 2 ? kmNavSign(0) : NavamshSign(0);
+}
 
 int clsJaimini::kmNavSign(int p) const
 {
@@ -338,6 +436,15 @@ int clsJaimini::kmNavSign(int p) const
     }
 }
 
-int clsJaimini::JaiminiNavamshSign(int p) const { return Sex() == 1 ? NavamshSign(p) : kmNavSign(p); }
-int clsJaimini::KMNavLord(int p) const { return SignLord(kmNavSign(p)); }
-int clsJaimini::NavSignLord(int p) const { return SignLord(NavamshSign(p)); }
+int clsJaimini::JaiminiNavamshSign(int p) const
+{
+    return Sex() == 1 ? NavamshSign(p) : kmNavSign(p);
+}
+int clsJaimini::KMNavLord(int p) const
+{
+    return SignLord(kmNavSign(p));
+}
+int clsJaimini::NavSignLord(int p) const
+{
+    return SignLord(NavamshSign(p));
+}

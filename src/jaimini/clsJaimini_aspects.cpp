@@ -11,6 +11,7 @@
 
 namespace {
 // The three signs from which each sign 1..12 is aspected (the relation is symmetric).
+// clang-format off
 inline constexpr std::array<std::array<int, 3>, 12> kAspectedFrom{{
     {5, 8, 11},  // 1
     {4, 7, 10},  // 2
@@ -25,21 +26,26 @@ inline constexpr std::array<std::array<int, 3>, 12> kAspectedFrom{{
     {1, 4, 7},   // 11
     {3, 6, 9},   // 12
 }};
+// clang-format on
 static_assert(kAspectedFrom.size() == 12);
 
 // Frontal signs by sign 1..12: of a planet, of the Lagna-style table, and of the page's table.
+// clang-format off
 inline constexpr std::array<int, 12> kPlanetFrontal{8, 7, 6, 11, 10, 3, 2, 1, 12, 5, 4, 9};
-inline constexpr std::array<int, 12> kFrontal{8, 7, 6, 11, 10, 3, 2, 1, 12, 4, 5, 9};
-inline constexpr std::array<int, 12> kFrontalName{8, 7, 9, 11, 10, 12, 2, 1, 3, 5, 4, 6};
+inline constexpr std::array<int, 12> kFrontal      {8, 7, 6, 11, 10, 3, 2, 1, 12, 4, 5, 9};
+inline constexpr std::array<int, 12> kFrontalName  {8, 7, 9, 11, 10, 12, 2, 1, 3, 5, 4, 6};
+// clang-format on
 static_assert(kPlanetFrontal.size() == 12 && kFrontal.size() == 12 && kFrontalName.size() == 12);
 
 // Lateral pairs by sign 1..12: of the page's table, and of a planet.
+// clang-format off
 inline constexpr std::array<std::array<int, 2>, 12> kLateralName{{
     {5, 11}, {4, 10}, {6, 12}, {2, 8}, {1, 7}, {3, 9}, {5, 11}, {4, 10}, {6, 12}, {2, 8}, {1, 7}, {3, 9},
 }};
 inline constexpr std::array<std::array<int, 2>, 12> kPlanetLateral{{
     {5, 11}, {4, 10}, {9, 12}, {2, 8}, {1, 7}, {9, 12}, {5, 11}, {4, 10}, {3, 6}, {2, 8}, {1, 7}, {3, 6},
 }};
+// clang-format on
 static_assert(kLateralName.size() == 12 && kPlanetLateral.size() == 12);
 
 // Natural weights and sign scores, planets 1..9.
@@ -47,9 +53,18 @@ inline constexpr std::array<double, 9> kWeight{1.4, 1.6, 1.7, 1.3, 1.8, 1.2, 1.5
 inline constexpr std::array<double, 9> kSignScore{0.5, 0.7, 0.8, 0.4, 0.9, 0.3, 0.6, 0.2, 0.1};
 static_assert(kWeight.size() == 9 && kSignScore.size() == 9);
 
-bool inSigns(int s) { return s >= 1 && s <= 12; }
-size_t at(int s) { return static_cast<size_t>(s - 1); }
-bool odd(int s) { return s % 2 != 0; }
+bool inSigns(int s)
+{
+    return s >= 1 && s <= 12;
+}
+size_t at(int s)
+{
+    return static_cast<size_t>(s - 1);
+}
+bool odd(int s)
+{
+    return s % 2 != 0;
+}
 
 constexpr int Sun = 1, Mercury = 2, Venus = 3, Mars = 4, Jupiter = 5, Saturn = 6, Rahu = 8, Ketu = 9;
 } // namespace
@@ -66,10 +81,19 @@ bool clsJaimini::SignsAspect(int a, int b)
     return false;
 }
 
-bool clsJaimini::JMalefic(int p) { return p == Sun || p == Mars || p == Saturn || p == Rahu || p == Ketu; }
-bool clsJaimini::JBenefic(int p) { return p == Mercury || p == Venus || p == Jupiter || p == 7; }
+bool clsJaimini::JMalefic(int p)
+{
+    return p == Sun || p == Mars || p == Saturn || p == Rahu || p == Ketu;
+}
+bool clsJaimini::JBenefic(int p)
+{
+    return p == Mercury || p == Venus || p == Jupiter || p == 7;
+}
 
-bool clsJaimini::JAspectedBy(int s, int p) const { return p >= 1 && p <= 9 && SignsAspect(Sign(p), s); }
+bool clsJaimini::JAspectedBy(int s, int p) const
+{
+    return p >= 1 && p <= 9 && SignsAspect(Sign(p), s);
+}
 
 bool clsJaimini::JAspByMalefic(int s) const
 {
@@ -126,10 +150,22 @@ bool clsJaimini::IfNavPlanetJAspects(int p, int q) const
 
 // ---- frontal and lateral tables ----
 
-int clsJaimini::PlanetFrontalSign(int p) const { return inSigns(Sign(p)) ? kPlanetFrontal[at(Sign(p))] : 0; }
-int clsJaimini::FrontalSign(int p) const { return inSigns(Sign(p)) ? kFrontal[at(Sign(p))] : 0; }
-int clsJaimini::PlanetLateralSignA(int p) const { return inSigns(Sign(p)) ? kPlanetLateral[at(Sign(p))][0] : 0; }
-int clsJaimini::PlanetLateralSignB(int p) const { return inSigns(Sign(p)) ? kPlanetLateral[at(Sign(p))][1] : 0; }
+int clsJaimini::PlanetFrontalSign(int p) const
+{
+    return inSigns(Sign(p)) ? kPlanetFrontal[at(Sign(p))] : 0;
+}
+int clsJaimini::FrontalSign(int p) const
+{
+    return inSigns(Sign(p)) ? kFrontal[at(Sign(p))] : 0;
+}
+int clsJaimini::PlanetLateralSignA(int p) const
+{
+    return inSigns(Sign(p)) ? kPlanetLateral[at(Sign(p))][0] : 0;
+}
+int clsJaimini::PlanetLateralSignB(int p) const
+{
+    return inSigns(Sign(p)) ? kPlanetLateral[at(Sign(p))][1] : 0;
+}
 
 int clsJaimini::FrontalAspectSign(int p) const
 {
@@ -137,7 +173,10 @@ int clsJaimini::FrontalAspectSign(int p) const
     return s != 0 && m_chart.CountPlanetInSign(s) >= 1 ? s : 0;
 }
 
-int clsJaimini::FrontalAspectNameSign(int s) { return inSigns(s) ? kFrontalName[at(s)] : 0; }
+int clsJaimini::FrontalAspectNameSign(int s)
+{
+    return inSigns(s) ? kFrontalName[at(s)] : 0;
+}
 
 std::pair<int, int> clsJaimini::LateralAspectNameSigns(int s)
 {
@@ -168,7 +207,10 @@ QString clsJaimini::LateralAspectName(int s) const
 
 // ---- comparisons of planets ----
 
-double clsJaimini::PlanetWeight(int p) { return p >= 1 && p <= 9 ? kWeight[static_cast<size_t>(p - 1)] : 0; }
+double clsJaimini::PlanetWeight(int p)
+{
+    return p >= 1 && p <= 9 ? kWeight[static_cast<size_t>(p - 1)] : 0;
+}
 
 double clsJaimini::SignPlanetScore(int k) const
 {
@@ -336,7 +378,8 @@ int clsJaimini::houseWinner(int a, int b) const
             return fa.degrees > fb.degrees ? 1 : 2;
         return parityStep(la, lb);
     };
-    const std::array<std::pair<int, int>, 3> tallies{{{fa.exalted, fb.exalted}, {fa.own, fb.own}, {fa.debilitated, fb.debilitated}}};
+    const std::array<std::pair<int, int>, 3> tallies{
+        {{fa.exalted, fb.exalted}, {fa.own, fb.own}, {fa.debilitated, fb.debilitated}}};
     for (size_t k = 0; k < tallies.size(); ++k) {
         const auto [ta, tb] = tallies[k];
         if (ta == tb && ta > 0) {
@@ -387,8 +430,14 @@ int clsJaimini::coLord(int main, int node, int sign) const
     return Clock12(Sign(main) - sign) > Clock12(Sign(node) - sign) ? main : node;
 }
 
-int clsJaimini::LordOfAquarius() const { return coLord(Saturn, Rahu, 11); }
-int clsJaimini::LordOfScorpio() const { return coLord(Mars, Ketu, 8); }
+int clsJaimini::LordOfAquarius() const
+{
+    return coLord(Saturn, Rahu, 11);
+}
+int clsJaimini::LordOfScorpio() const
+{
+    return coLord(Mars, Ketu, 8);
+}
 
 int clsJaimini::AK8DLord() const
 {

@@ -11,17 +11,16 @@ namespace {
 inline constexpr std::array<int, 7> kSthiraKaraka{1, 2, 4, 7, 5, 6, 3};
 static_assert(kSthiraKaraka.size() == 7);
 
-inline constexpr std::array<const char *, 8> kAshtaKarakaName{"Atma Karaka",  "Amatya Karaka", "Bhratri Karaka",
-                                                              "Matri Karaka", "Pitri Karaka",  "Apatya Karaka",
-                                                              "Jnati Karaka", "Dara Karaka"};
+inline constexpr std::array<const char *, 8> kAshtaKarakaName{"Atma Karaka",  "Amatya Karaka", "Bhratri Karaka", "Matri Karaka",
+                                                              "Pitri Karaka", "Apatya Karaka", "Jnati Karaka",   "Dara Karaka"};
 static_assert(kAshtaKarakaName.size() == 8);
 
 // Tie numbers of the Upa Karaka, planets 1..7: the greater wins an exact tie.
 inline constexpr std::array<int, 7> kUpaKarakaTie{38, 40, 41, 37, 42, 36, 39};
 static_assert(kUpaKarakaTie.size() == 7);
 
-inline constexpr std::array<const char *, 6> kYogadaWord{"None", "Poorna Vali", "Tripad Vali", "Ardha Vali", "Sadharana",
-                                                         "Kevala"};
+inline constexpr std::array<const char *, 6> kYogadaWord{"None",       "Poorna Vali", "Tripad Vali",
+                                                         "Ardha Vali", "Sadharana",   "Kevala"};
 } // namespace
 
 // Rank i of the planets 1..count (count 8 takes Rahu in, counted backward from the sign's end).
@@ -46,12 +45,24 @@ int clsJaimini::karakaRank(int i, int count) const
     return planet[static_cast<size_t>(i)];
 }
 
-int clsJaimini::AshtaCharaKaraka(int i) const { return karakaRank(i, 8); }
-int clsJaimini::SaptaCharaKaraka(int i) const { return karakaRank(i, 7); }
+int clsJaimini::AshtaCharaKaraka(int i) const
+{
+    return karakaRank(i, 8);
+}
+int clsJaimini::SaptaCharaKaraka(int i) const
+{
+    return karakaRank(i, 7);
+}
 
-int clsJaimini::SaptaSthiraKaraka(int i) { return i >= 1 && i <= 7 ? kSthiraKaraka[static_cast<size_t>(i - 1)] : 0; }
+int clsJaimini::SaptaSthiraKaraka(int i)
+{
+    return i >= 1 && i <= 7 ? kSthiraKaraka[static_cast<size_t>(i - 1)] : 0;
+}
 
-int clsJaimini::SaptaBhavaKaraka(int i) const { return i >= 1 && i <= 7 ? SignLord(Clock12(Sign(0) + i - 1)) : 0; }
+int clsJaimini::SaptaBhavaKaraka(int i) const
+{
+    return i >= 1 && i <= 7 ? SignLord(Clock12(Sign(0) + i - 1)) : 0;
+}
 
 QString clsJaimini::AshtaCharaKarakaName(int i)
 {
@@ -65,7 +76,10 @@ QString clsJaimini::SaptaCharaKarakaName(int i)
     return AshtaCharaKarakaName(i < 5 ? i : i + 1);
 }
 
-int clsJaimini::AtmaKarakaSign() const { return Sign(AshtaCharaKaraka(1)); }
+int clsJaimini::AtmaKarakaSign() const
+{
+    return Sign(AshtaCharaKaraka(1));
+}
 
 int clsJaimini::UpaKarakaGraha() const
 {
@@ -83,7 +97,10 @@ int clsJaimini::UpaKarakaGraha() const
     return best;
 }
 
-int clsJaimini::SubhaPatiGraha() const { return SignLord(Sign(7)); }
+int clsJaimini::SubhaPatiGraha() const
+{
+    return SignLord(Sign(7));
+}
 
 int clsJaimini::VmPltDasConst() const
 {

@@ -39,8 +39,8 @@ TEST(JaiminiJson, KarakasLagnasAndPadasOfACastChart)
     ScopedSettingsStore store;
     for (int sex : {1, 2}) {
         clsPlanets chart;
-        chart.setPerson(MakePerson(15, 8, 1980, 14, 35, QStringLiteral("5.5"), 28, 38, QStringLiteral("N"), 77, 12,
-                                   QStringLiteral("E")));
+        chart.setPerson(
+            MakePerson(15, 8, 1980, 14, 35, QStringLiteral("5.5"), 28, 38, QStringLiteral("N"), 77, 12, QStringLiteral("E")));
         chart.Person().setSex(sex);
         chart.Calculate();
         const QJsonObject jm = ChartJson(chart).value(QStringLiteral("jaimini")).toObject();

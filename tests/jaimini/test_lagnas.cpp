@@ -22,8 +22,8 @@ TEST_F(Lagnas, PadasOfTheFirstHouseByTheLordsPlace)
         const char *mars;
         int popular, conditional;
     };
-    for (const Row &r : {Row{"Ma1", 1, 10}, Row{"Ma7", 1, 10}, Row{"Ma4", 7, 4}, Row{"Ma10", 7, 4}, Row{"Ma3", 5, 5},
-                         Row{"Ma12", 11, 11}}) {
+    for (const Row &r :
+         {Row{"Ma1", 1, 10}, Row{"Ma7", 1, 10}, Row{"Ma4", 7, 4}, Row{"Ma10", 7, 4}, Row{"Ma3", 5, 5}, Row{"Ma12", 11, 11}}) {
         place(QString::fromLatin1(r.mars));
         clsJaimini &j = jm();
         EXPECT_EQ(j.ArudhaLagna(1), r.popular) << r.mars;

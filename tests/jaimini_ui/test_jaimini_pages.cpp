@@ -110,7 +110,8 @@ TEST_F(JaiminiPages, ThePrintWalkWritesTheThreePages)
     Output().PageCounter = 1;
     PageCache pages;
     PageOutput out(nullptr, nullptr, &pdf);
-    const QList<PrintStep> steps = SelectedSteps(1, false, {QStringLiteral("JMLAGNA"), QStringLiteral("JMKUNDLIS"), QStringLiteral("JMSPHUTAS")});
+    const QList<PrintStep> steps =
+        SelectedSteps(1, false, {QStringLiteral("JMLAGNA"), QStringLiteral("JMKUNDLIS"), QStringLiteral("JMSPHUTAS")});
     ASSERT_EQ(steps.size(), 3);
     EXPECT_EQ(WalkSteps(steps, pages, out), 3);
     ASSERT_TRUE(pdf.FinishFile());

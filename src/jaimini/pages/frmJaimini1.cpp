@@ -22,5 +22,11 @@ void frmJaimini1::fill()
     m_cells = t.cells;
 }
 
-QString frmJaimini1::rowName(int r) const { return r >= 0 && r < m_cells.size() ? m_cells[r][1]->text() : QString(); }
-QString frmJaimini1::rowSign(int r) const { return r >= 0 && r < m_cells.size() ? m_cells[r][2]->text() : QString(); }
+QString frmJaimini1::rowName(int r) const
+{
+    return r >= 0 && r < m_cells.size() ? m_cells[r][1]->text() : QString();
+}
+QString frmJaimini1::rowSign(int r) const
+{
+    return r >= 0 && r < m_cells.size() ? m_cells[r][2]->text() : QString();
+}

@@ -10,7 +10,7 @@ namespace {
 constexpr int kChart = 228;
 constexpr std::array<int, 3> kColumns{22, 266, 510};
 constexpr std::array<int, 3> kRowTops{90, 410, 730};
-inline constexpr std::array<const char *, 9> kControl{"kunJMTrad",    "kunJMDTrad",  "kunJMDPari", "kunJMDSoma", "kunJMNavTrad",
+inline constexpr std::array<const char *, 9> kControl{"kunJMTrad",   "kunJMDTrad",  "kunJMDPari", "kunJMDSoma", "kunJMNavTrad",
                                                       "kunJMNavKri", "kunJMUpaPad", "kunJMKarak", "kunJMAruda"};
 } // namespace
 
@@ -23,7 +23,8 @@ void frmJaimini2::fill()
         const JaiminiChart which = kJaiminiCharts[i];
         const QRect at(kColumns[i % 3], kRowTops[i / 3], kChart, kChart);
         // The titles may run a little wider than their charts, into the gaps between them.
-        addLabel(QRect(at.left() - 8, at.top() - 26, kChart + 16, 22), JaiminiLabel(c, JaiminiChartHead(which)), SubHead, Qt::AlignCenter);
+        addLabel(QRect(at.left() - 8, at.top() - 26, kChart + 16, 22), JaiminiLabel(c, JaiminiChartHead(which)), SubHead,
+                 Qt::AlignCenter);
         kunJM[i] = addChart(at);
         kunJM[i]->setObjectName(QString::fromLatin1(kControl[i]));
         FillJaiminiKundali(kunJM[i]->model(), jm, which);

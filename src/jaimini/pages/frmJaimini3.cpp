@@ -52,8 +52,8 @@ void frmJaimini3::fill()
     y = sphutas.rect.bottom() + 18;
     addLabel(QRect(kLeft, y, 720, 24), JaiminiLabel(c, "Karakas"), SubHead);
     y += 28;
-    const Table ashta = addTable(kLeft, y, {150, 110}, kRow, {JaiminiLabel(c, "AshtaChara"), GenLabel(QStringLiteral("TPlanets"), c)}, 8,
-                                 Small, true);
+    const Table ashta = addTable(kLeft, y, {150, 110}, kRow,
+                                 {JaiminiLabel(c, "AshtaChara"), GenLabel(QStringLiteral("TPlanets"), c)}, 8, Small, true);
     for (int i = 1; i <= 8; ++i) {
         ashta.cell(i - 1, 0)->setText(c.GetHeadValue(1, i, QStringLiteral("JaiminiAshtaKarak")).toString());
         ashta.cell(i - 1, 1)->setText(c.PlanetNameFull(jm.AshtaCharaKaraka(i)));
