@@ -3,6 +3,9 @@
 
 #include "cli/MatchCommand.h"
 #include "dasha/pages/frmVimsot.h"
+#include "jaimini/pages/frmJaimini1.h"
+#include "jaimini/pages/frmJaimini2.h"
+#include "jaimini/pages/frmJaimini3.h"
 #include "marriage/pages/frmMarCover.h"
 #include "marriage/pages/frmMarFront.h"
 #include "marriage/pages/frmMarScore.h"
@@ -57,6 +60,9 @@ void RegisterTopicPages()
     page<frmSudarshan>("frmSudarshan");
     page<frmKaraka>("frmKaraka");
     page<frmShadbala>("frmShadbala");
+    page<frmJaimini1>("frmJaimini1");
+    page<frmJaimini2>("frmJaimini2");
+    page<frmJaimini3>("frmJaimini3");
     page<frmVimsot>("frmVimsot");
     page<frmPratyan>("frmPratyan");
     page<frmPrediYogas>("frmPrediYogas");

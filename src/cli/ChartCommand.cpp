@@ -3,6 +3,9 @@
 
 #include "cli/BirthOptions.h"
 #include "dasha/clsDashaVimshottari.h"
+#include "jaimini/JaiminiDashaJson.h"
+#include "jaimini/JaiminiJson.h"
+#include "jaimini/clsJaimini.h"
 #include "muhurtha/clsSadeSati.h"
 #include "sky/Functions.h"
 #include "sky/MessageSink.h"
@@ -218,6 +221,10 @@ QJsonObject ChartJson(const clsPlanets &chart)
     const QJsonObject day = ChartDayJson(chart);
     for (auto it = day.begin(); it != day.end(); ++it)
         o.insert(it.key(), it.value());
+    // The karakas, the special lagnas and the padas.
+    o.insert(QStringLiteral("jaimini"), JaiminiJson(clsJaimini(chart)));
+    // Last, so that the sign dashas join whatever else the "jaimini" object holds.
+    AddJaiminiDashasJson(o, clsJaimini(chart));
     return o;
 }
 

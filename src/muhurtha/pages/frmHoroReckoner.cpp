@@ -4,6 +4,8 @@
 #include "chartdraw/ChartFill.h"
 #include "chartdraw/ui/Kundali.h"
 #include "dasha/clsDashaVimshottari.h"
+#include "jaimini/JaiminiCharts.h"
+#include "jaimini/clsJaimini.h"
 #include "output/ui/PageParts.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
@@ -117,6 +119,14 @@ void frmHoroReckoner::ShowChart(ChartKind kind, int row)
         FillVargaKundali(k, c, row, true);
         lblKun2->setText(c.GetHeadValue(1, row, QStringLiteral("Shodashvarga")).toString());
         break;
+    case ChartKind::Jaimini: {
+        if (row < 0 || row >= static_cast<int>(kJaiminiCharts.size()))
+            return;
+        const JaiminiChart which = kJaiminiCharts[static_cast<size_t>(row)];
+        FillJaiminiKundali(k, clsJaimini(c), which, true);
+        lblKun2->setText(c.GetHeadValue(1, QString::fromLatin1(JaiminiChartHead(which)), QStringLiteral("Jaimini")).toString());
+        break;
+    }
     }
     Kun2->update();
 }
@@ -207,6 +217,24 @@ void frmHoroReckoner::buildMenu()
     for (size_t i = 0; i < kVargas.size(); ++i) {
         const int row = static_cast<int>(i) + 2;
         sodash->addAction(QString::fromLatin1(kVargas[i]), this, [this, row] { ShowChart(ChartKind::Varga, row); });
+    }
+    QMenu *jaimini = m_popup->addMenu(QStringLiteral("Jaimini Kundlis"));
+    jaimini->setObjectName(QStringLiteral("mnuPopupJaimini"));
+    // The menu's order, and each item's chart in the order of the Jaimini charts page.
+    static constexpr std::array<std::pair<const char *, JaiminiChart>, 9> kJaimini{{
+        {"Janma Lagna", JaiminiChart::Janma},
+        {"Drekkana Traditional", JaiminiChart::DrekTrad},
+        {"Drekkana Pravritti Traya", JaiminiChart::DrekPrav},
+        {"Drekkana Somnath", JaiminiChart::DrekSom},
+        {"Navamsh Traditional", JaiminiChart::NavTrad},
+        {"Navamsha Krishna Mishra", JaiminiChart::NavKri},
+        {"Arooda", JaiminiChart::Arudha},
+        {"Upapada", JaiminiChart::Upapada},
+        {"Karakamsha", JaiminiChart::Karakamsa},
+    }};
+    for (const auto &[caption, which] : kJaimini) {
+        const int place = static_cast<int>(std::find(kJaiminiCharts.begin(), kJaiminiCharts.end(), which) - kJaiminiCharts.begin());
+        jaimini->addAction(QString::fromLatin1(caption), this, [this, place] { ShowChart(ChartKind::Jaimini, place); });
     }
     QMenu *dashas = m_popup->addMenu(QStringLiteral("Dashas"));
     dashas->addAction(QStringLiteral("Vimshottari Dasha"), this, [this] { ShowTable(TableKind::Vimshottari); });

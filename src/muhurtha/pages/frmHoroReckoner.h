@@ -17,7 +17,7 @@ public:
     explicit frmHoroReckoner(QWidget *parent = nullptr);
 
     // What the second chart shows.
-    enum class ChartKind { Lagna, Chandra, BhavaChalit, Varga };
+    enum class ChartKind { Lagna, Chandra, BhavaChalit, Varga, Jaimini };
     // What the table beside the bars shows.
     enum class TableKind { Panchang, Vimshottari, PlanetTotal, SignTotal };
 
@@ -28,7 +28,8 @@ public:
 
     // The menu the page offers on a right click ("&Click on an Option").
     QMenu *mnuPopup() const { return m_popup; }
-    // The menu's choices, also for the tests. row: the divisional row 2..16 for ChartKind::Varga.
+    // The menu's choices, also for the tests. row: the divisional row 2..16 for ChartKind::Varga;
+    // for ChartKind::Jaimini the place 0..8 of the chart in the Jaimini charts page.
     void ShowChart(ChartKind kind, int row = 0);
     void ShowTable(TableKind kind);
     TableKind tableShown() const { return m_table; }
