@@ -106,7 +106,7 @@ QString HtmlBook::toHtml() const
     for (const Section &s : m_sections) {
         h += QStringLiteral("<section class=\"topic\" id=\"%1\">\n<h2>%2</h2>\n").arg(s.Id, Escape(s.Caption));
         if (!s.Image.isEmpty())
-            h += QStringLiteral("<img src=\"%1\" alt=\"%2\" width=\"%3\" height=\"%4\" />\n")
+            h += QStringLiteral("<p class=\"page\"><img src=\"%1\" alt=\"%2\" width=\"%3\" height=\"%4\" /></p>\n")
                      .arg(Escape(s.Image), Escape(s.Caption))
                      .arg(s.Width)
                      .arg(s.Height);

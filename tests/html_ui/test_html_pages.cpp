@@ -6,12 +6,16 @@
 #include "output/PrintTree.h"
 #include "output/TopicList.h"
 #include "output/ui/HtmlExport.h"
+#include "output/ui/PageCache.h"
+#include "output/ui/frmPrint.h"
 #include "output/ui/TopicPage.h"
 #include "output_ui/DelhiSession.h"
 #include "support/RecordingSink.h"
 
 #include <QImage>
 #include <QPainter>
+#include <QPushButton>
+#include <QTest>
 #include <QTextDocument>
 
 #include <gtest/gtest.h>
@@ -99,7 +103,15 @@ TEST_F(HtmlExport, TheIndexReadsInARichTextViewWithItsPictures)
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     QTextDocument doc;
     doc.setBaseUrl(QUrl::fromLocalFile(folder + "/"));
-    doc.setHtml(QString::fromUtf8(f.readAll()));
+    const QString html = QString::fromUtf8(f.readAll());
+    // The pictures hold two pixels for each pixel of the page; a browser reads the page's size
+    // from the width and height of the img, the rich-text view from the picture.
+    for (const QString &src : ReadHtmlShape(html).images) {
+        QImage picture(folder + "/" + src);
+        picture.setDevicePixelRatio(2);
+        doc.addResource(QTextDocument::ImageResource, QUrl(src), picture);
+    }
+    doc.setHtml(html);
     doc.setTextWidth(820);
     const QSizeF size = doc.size();
     EXPECT_GT(size.height(), 2 * TopicPage::kHeight) << "two pictures of a page's height and the text";
@@ -112,4 +124,28 @@ TEST_F(HtmlExport, TheIndexReadsInARichTextViewWithItsPictures)
     EXPECT_GT(inked(shot), 0.02) << "the pictures were found beside the file";
     if (const QString out = qEnvironmentVariable("ORBANTA_SCREENSHOTS"); !out.isEmpty())
         shot.save(out + "/html-export.png");
+}
+
+// File > Export HTML is the print screen in its HTML mode: the ticked topics go to its folder, and
+// the screen reports what it wrote, which the mail then takes.
+TEST_F(HtmlExport, ThePrintScreenInItsHtmlModeWritesTheTickedTopics)
+{
+    PageCache pages;
+    frmPrint dialog(pages);
+    dialog.setMode(PageOutput::kHtmlMode);
+    EXPECT_EQ(dialog.windowTitle(), "Select Topics To Export HTML");
+    dialog.setTicked("Main", false);
+    dialog.setTicked("Janma", true);
+    dialog.setTicked("Yoga", true);
+    const QString folder = dir.filePath("chosen");
+    dialog.setTarget(folder);
+    dialog.show();
+    if (const QString out = qEnvironmentVariable("ORBANTA_SCREENSHOTS"); !out.isEmpty())
+        dialog.grab().save(out + "/print-screen-html.png");
+    QTest::mouseClick(dialog.cmdPrint, Qt::LeftButton);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.exportedPath(), folder);
+    EXPECT_EQ(dialog.exportedFiles(), (QStringList{"Index.HTML", "page-001.png"}));
+    EXPECT_EQ(ReadHtmlFile(folder + "/Index.HTML").sections, (QStringList{"Janma", "Yoga"}));
+    EXPECT_EQ(pages.count(), 0) << "the run unloads its pages";
 }

@@ -55,6 +55,10 @@ TEST_F(MailScreen, TheMailScreenSavesTheArchiveAndSaysWhatToAttachWhenNoMailProg
 
     mail.txtMailTo->clear();
     QTest::keyClicks(mail.txtMailTo, "friend@example.org");
+    if (const QString out = qEnvironmentVariable("ORBANTA_SCREENSHOTS"); !out.isEmpty()) {
+        mail.show();
+        mail.grab().save(out + "/mail-screen.png");
+    }
     {
         EmptyPath noMailProgram;
         QTest::mouseClick(mail.cmdSendMail, Qt::LeftButton);
