@@ -2,10 +2,13 @@
 #include "output/MailSender.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QThread>
 
 namespace {
 // Mail programs to which xdg-email hands an attachment; the others get a mailto link, which
@@ -13,6 +16,7 @@ namespace {
 const char *const kAttachingClients[] = {"thunderbird", "icedove", "seamonkey", "evolution", "kmail", "claws-mail", "sylpheed", "balsa"};
 
 constexpr int kWaitMs = 60000;
+constexpr int kDetachedWaitMs = 15000;
 
 // A name in folder for file's name that no file has yet: HORO.ZIP, HORO-2.ZIP, ...
 QString freeName(const QString &folder, const QString &file)
@@ -33,13 +37,37 @@ int MailSender::RunProcess(const QString &program, const QStringList &args, QStr
     const QString path = QStandardPaths::findExecutable(program);
     if (path.isEmpty())
         return -1;
-    QProcess p;
-    p.start(path, args);
-    if (!p.waitForStarted() || !p.waitForFinished(kWaitMs) || p.exitStatus() != QProcess::NormalExit)
-        return -1;
-    if (output)
+    if (output) {
+        QProcess p;
+        p.start(path, args);
+        if (!p.waitForStarted() || !p.waitForFinished(kWaitMs) || p.exitStatus() != QProcess::NormalExit)
+            return -1;
         *output = QString::fromLocal8Bit(p.readAllStandardOutput());
-    return p.exitCode();
+        return p.exitCode();
+    }
+    // xdg-email may become the mail program itself (Thunderbird when it wasn't running yet) and
+    // last as long as it. So it runs on its own, through a shell that writes its status to a
+    // file; a program still running after a while is taken to be the mail program, open.
+    QTemporaryDir dir;
+    if (!dir.isValid())
+        return -1;
+    const QString status = dir.filePath(QStringLiteral("status"));
+    const QString script = QStringLiteral("\"$0\" \"$@\"; echo $? > '%1'").arg(status);
+    if (!QProcess::startDetached(QStringLiteral("/bin/sh"), QStringList{QStringLiteral("-c"), script, path} + args))
+        return -1;
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < kDetachedWaitMs) {
+        QFile f(status);
+        if (f.open(QIODevice::ReadOnly)) {
+            const QByteArray text = f.readAll().trimmed();
+            if (!text.isEmpty())
+                return text.toInt();
+        }
+        QThread::msleep(100);
+    }
+    dir.setAutoRemove(false); // the shell still writes there when the mail program ends
+    return 0;
 }
 
 QString MailSender::MailClient() const

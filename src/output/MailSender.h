@@ -51,7 +51,9 @@ public:
     QString MailClient() const;
     // Whether xdg-email can give that mail program an attachment.
     static bool TakesAttachments(const QString &desktopFile);
-    // Runs a program found on PATH: the default runner.
+    // Runs a program found on PATH: the default runner. Without output the program runs on its
+    // own, and one still running after 15 seconds counts as having succeeded (a mail program that
+    // xdg-email started in its place).
     static int RunProcess(const QString &program, const QStringList &args, QString *output);
 
 private:

@@ -188,3 +188,37 @@ TEST(MailSender, TheMailProgramGetsTheArchiveOnlyWhereItCanTakeIt)
     EXPECT_EQ(none.emailRuns, 0);
 }
 
+
+// The desktop's own tools, as the program runs them: scripts of those names on PATH stand in for
+// them, one recording what it was given.
+TEST(MailSender, TheDesktopToolsRunFromPathAndTheirStatusCounts)
+{
+    QTemporaryDir dir;
+    const QString bin = dir.filePath("bin");
+    QDir().mkpath(bin);
+    const auto script = [&](const QString &name, const QByteArray &body) {
+        writeFile(bin + "/" + name, "#!/bin/sh\n" + body);
+        QFile::setPermissions(bin + "/" + name, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    };
+    script("xdg-mime", "echo evolution.desktop\n");
+    const QString record = dir.filePath("args");
+    script("xdg-email", "for a in \"$@\"; do echo \"$a\" >> '" + record.toLocal8Bit() + "'; done\nexit 0\n");
+    const QString zip = dir.filePath("HORO.ZIP");
+    writeFile(zip, "PK");
+    const QByteArray oldPath = qgetenv("PATH");
+    qputenv("PATH", bin.toLocal8Bit() + ":/usr/bin:/bin");
+    const MailMessage m{"friend@example.org", "Asha's Horoscope", "Two words", zip};
+
+    EXPECT_EQ(MailSender().MailClient(), "evolution.desktop");
+    const MailOutcome handed = MailSender().Send(m, dir.filePath("saved"));
+    EXPECT_EQ(handed.kind, MailOutcome::Handed) << handed.Text.toStdString();
+    EXPECT_EQ(QString::fromUtf8(readFile(record)).split('\n', Qt::SkipEmptyParts),
+              (QStringList{"--utf8", "--subject", "Asha's Horoscope", "--body", "Two words", "--attach", zip, "friend@example.org"}));
+
+    script("xdg-email", "exit 3\n");
+    const MailOutcome failed = MailSender().Send(m, dir.filePath("saved"));
+    qputenv("PATH", oldPath);
+    EXPECT_EQ(failed.kind, MailOutcome::Saved);
+    EXPECT_TRUE(failed.Text.contains("status 3")) << failed.Text.toStdString();
+    EXPECT_TRUE(QFile::exists(failed.SavedFile));
+}
