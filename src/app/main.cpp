@@ -3,9 +3,11 @@
 #include "app/mdiMother.h"
 #include "cli/ChartCommand.h"
 #include "cli/CommandLine.h"
+#include "cli/HtmlCommand.h"
 #include "cli/MatchCommand.h"
 #include "cli/VarshaCommand.h"
 #include "cli/MuhurthaCommand.h"
+#include "output/ui/HtmlExport.h"
 #include "output/ui/PdfCommand.h"
 #include "session/ui/MessageBoxSink.h"
 #include "session/ui/frmSplash.h"
@@ -20,11 +22,13 @@
 namespace {
 
 int runVarsha(const QStringList &args, QTextStream &out, QTextStream &err) { return RunVarshaCommand(args, out, err, WriteVarshaPdf); }
+int runHtml(const QStringList &args, QTextStream &out, QTextStream &err) { return RunHtmlCommand(args, out, err, WriteSessionHtml); }
 
 // The verbs of the command line, in the order its usage lists them.
 constexpr std::array kVerbs{
     CliVerb{"chart", "Cast a chart and print it as a table or as JSON.", false, RunChartCommand},
     CliVerb{"pdf", "Write chosen topics of the horoscope to a PDF file.", true, RunPdfCommand},
+    CliVerb{"html", "Write chosen topics of the horoscope as an HTML page with its pictures.", true, runHtml},
     CliVerb{"match", "Match a couple: Guna milan, Manglik and the further checks, as a table, JSON or PDF.", true, RunMatchCommand},
     CliVerb{"varsha", "Read one year of a birth (Varshaphala) as a summary, JSON or a PDF file.", true, runVarsha},
     CliVerb{"muhurtha", "List the acts, or find the best moment for one within a span of days.", false, RunMuhurthaCommand},

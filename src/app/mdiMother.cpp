@@ -7,6 +7,8 @@
 #include "output/ui/PageCache.h"
 #include "output/ui/PageOutput.h"
 #include "output/ui/TextPage.h"
+#include "output/HtmlBook.h"
+#include "output/ui/frmEmail.h"
 #include "output/ui/frmPrint.h"
 #include "output/ui/frmStatus.h"
 #include "output/ui/TopicPage.h"
@@ -33,6 +35,9 @@
 #include <QStyle>
 #include <QTreeWidget>
 #include <QDate>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
@@ -173,10 +178,16 @@ void mdiMother::buildMenus()
         file->addAction(QStringLiteral("&Print Horoscope..."), this, &mdiMother::PrintIt),
         file->addAction(QStringLiteral("Print This &Topic"), this, &mdiMother::PrintCurrentTopic),
         file->addAction(QStringLiteral("Export &PDF..."), this, &mdiMother::ExportPDF),
+        file->addAction(QStringLiteral("&Export HTML..."), this, &mdiMother::ExportHTML),
+        file->addAction(QStringLiteral("&Send HTML By Email..."), this, &mdiMother::SendMailHTML),
+        file->addAction(QStringLiteral("Send &PDF by Email..."), this, &mdiMother::SendMailPDF),
     };
     m_outputActions[0]->setObjectName(QStringLiteral("mnuPrint"));
     m_outputActions[1]->setObjectName(QStringLiteral("mnuPrintTopic"));
     m_outputActions[2]->setObjectName(QStringLiteral("mnuExportPDF"));
+    m_outputActions[3]->setObjectName(QStringLiteral("mnuExportHTML"));
+    m_outputActions[4]->setObjectName(QStringLiteral("mnuSendHTML"));
+    m_outputActions[5]->setObjectName(QStringLiteral("mnuSendPDF"));
     for (QAction *a : m_outputActions)
         a->setEnabled(false);
 
@@ -495,18 +506,54 @@ void mdiMother::PrintIt() { runPrintScreen(1); }
 
 void mdiMother::ExportPDF() { runPrintScreen(3); }
 
-void mdiMother::runPrintScreen(int mode)
+void mdiMother::ExportHTML()
+{
+    QString folder;
+    if (runPrintScreen(PageOutput::kHtmlMode, QString(), &folder))
+        statusBar()->showMessage(
+            QStringLiteral("Written to %1").arg(QDir::toNativeSeparators(QDir(folder).filePath(QLatin1String(HtmlBook::kIndexFile)))));
+}
+
+void mdiMother::SendMailPDF()
+{
+    QString file;
+    if (!runPrintScreen(3, QString(), &file))
+        return;
+    frmEmail(frmEmail::Pdf, QFileInfo(file).absolutePath(), {QFileInfo(file).fileName()}, this).exec();
+}
+
+void mdiMother::SendMailHTML()
+{
+    // The pages go into a working folder of their own, emptied first, so that the archive holds
+    // this export alone.
+    QDir folder(QDir(QStandardPaths::writableLocation(QStandardPaths::CacheLocation)).filePath(QStringLiteral("html")));
+    folder.removeRecursively();
+    QString path;
+    QStringList files;
+    if (!runPrintScreen(PageOutput::kHtmlMode, folder.path(), &path, &files))
+        return;
+    frmEmail(frmEmail::Html, path, files, this).exec();
+}
+
+bool mdiMother::runPrintScreen(int mode, const QString &target, QString *path, QStringList *files)
 {
     if (m_topicList.isEmpty())
-        return;
+        return false;
     m_active = nullptr;
+    bool done = false;
     {
         frmPrint dialog(*m_pages, this);
         dialog.setMode(mode);
-        dialog.exec();
+        dialog.setTarget(target);
+        done = dialog.exec() == QDialog::Accepted && !dialog.exportedPath().isEmpty();
+        if (path)
+            *path = dialog.exportedPath();
+        if (files)
+            *files = dialog.exportedFiles();
     }
     UnloadPages();
     ShowTopic(cmbTopic->currentIndex());
+    return done;
 }
 
 void mdiMother::PrintCurrentTopic()

@@ -65,6 +65,12 @@ public:
     // The print screen over the session's topics; "Export PDF" is the same screen in its PDF mode.
     void PrintIt();
     void ExportPDF();
+    // The print screen in its HTML mode: the chosen topics as Index.HTML and pictures in a folder.
+    void ExportHTML();
+    // The chosen topics exported (to a PDF file the user names, or as HTML into a working
+    // folder), then the mail screen with the export as its attachment.
+    void SendMailPDF();
+    void SendMailHTML();
     // The page on view alone, on the printer.
     void PrintCurrentTopic();
     // Every topic of the list into file, without the selection screen. True when written.
@@ -104,8 +110,10 @@ private:
     void buildMenus();
     void buildNavigateMenus();
     void cmbTopic_Click(int index);
-    // The print screen in mode 1 (print) or 3 (PDF); the pages are made afresh afterwards.
-    void runPrintScreen(int mode);
+    // The print screen in mode 1 (print), 3 (PDF) or 5 (HTML), writing to target when given (else
+    // it asks); the pages are made afresh afterwards. True when the run wrote its output; the PDF
+    // file or HTML folder in *path, the HTML files in *files.
+    bool runPrintScreen(int mode, const QString &target = QString(), QString *path = nullptr, QStringList *files = nullptr);
     void step(int by);
     void reloadLook();
     // The reading of the session's year, with a message when it can't be cast.

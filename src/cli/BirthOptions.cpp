@@ -420,3 +420,25 @@ int RunWithCouple(const QStringList &args, QTextStream &out, QTextStream &err, c
         return status;
     });
 }
+
+QCommandLineOption TopicsOption()
+{
+    return {QStringLiteral("topics"), QStringLiteral("Print-tree keys, comma separated."), QStringLiteral("KEYS")};
+}
+
+int ReadTopics(const QCommandLineParser &p, const QStringList &keys, QSet<QString> &ticked, QTextStream &err, const QString &usage)
+{
+    if (!p.isSet(QStringLiteral("topics"))) {
+        ticked = QSet<QString>(keys.begin(), keys.end());
+        return 0;
+    }
+    ticked.clear();
+    for (const QString &k : p.value(QStringLiteral("topics")).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        if (!keys.contains(k.trimmed())) {
+            err << "Unknown topic key: " << k.trimmed() << '\n' << usage;
+            return 2;
+        }
+        ticked.insert(k.trimmed());
+    }
+    return 0;
+}

@@ -8,6 +8,7 @@
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QSet>
 #include <QSqlDatabase>
 #include <QStringList>
 #include <QTextStream>
@@ -30,3 +31,9 @@ using CoupleAction = std::function<int(const QCommandLineParser &, std::unique_p
                                        std::unique_ptr<clsPlanets> &girl, QSqlDatabase &)>;
 int RunWithCouple(const QStringList &args, QTextStream &out, QTextStream &err, const QList<QCommandLineOption> &extra,
                   const QString &usage, const CoupleAction &action);
+
+// --topics KEYS of the verbs that write topic pages: print-tree keys, comma separated.
+QCommandLineOption TopicsOption();
+// The keys that --topics names in ticked, or every one of keys when it isn't given. A key that
+// isn't one of keys gives status 2 with "Unknown topic key: ..." and usage on err; else 0.
+int ReadTopics(const QCommandLineParser &p, const QStringList &keys, QSet<QString> &ticked, QTextStream &err, const QString &usage);

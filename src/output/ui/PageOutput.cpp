@@ -2,6 +2,8 @@
 #include "output/ui/PageOutput.h"
 
 #include "chartdraw/ui/Kundali.h"
+#include "output/PrintTree.h"
+#include "output/ui/HtmlExport.h"
 #include "output/ui/PageParts.h"
 #include "output/ui/TextPage.h"
 #include "output/ui/TopicPage.h"
@@ -444,8 +446,19 @@ void PageOutput::beginSheet()
     ++m_sheets;
 }
 
+void PageOutput::BeginStep(const PrintStep &step)
+{
+    if (m_html)
+        m_html->BeginTopic(step);
+}
+
 void PageOutput::OutputPage(TopicPage &form)
 {
+    if (m_html) {
+        form.lblPageNo->setText(QString::number(Output().PageCounter));
+        m_html->PrintForm(form);
+        return;
+    }
     if (m_pdf) {
         if (Output().PageCounter > 1)
             m_pdf->NewTopic();
@@ -462,6 +475,11 @@ void PageOutput::OutputPage(TopicPage &form)
 
 void PageOutput::OutputTextPage(TextPage &page)
 {
+    if (m_html) {
+        m_html->PrintTextPage(page);
+        ++Output().PageCounter;
+        return;
+    }
     if (m_pdf) {
         if (Output().PageCounter > 1)
             m_pdf->NewTopic();

@@ -21,6 +21,8 @@ class PageLine;
 class PageShape;
 class TextPage;
 class TopicPage;
+class clsHtmlExporter;
+struct PrintStep;
 
 // The state every output shares: the number of the next page, and whether the printer failed.
 struct OutputState
@@ -98,13 +100,18 @@ private:
 };
 
 // The page steps of a run: a form page, and a text page whose header counts its own sheets.
-// Mode 1 prints to the printer of the run, mode 3 exports to its PDF.
+// Mode 1 prints to the printer of the run, mode 3 exports to its PDF, mode 5 to HTML.
 class PageOutput
 {
 public:
+    static constexpr int kHtmlMode = 5;
     // A printer run draws into p (begun on printer); a PDF run into exporter.
     PageOutput(QPrinter *printer, QPainter *p, clsPDFExporter *pdf) : m_printer(printer), m_painter(p), m_pdf(pdf) {}
-    int Mode() const { return m_pdf ? 3 : 1; }
+    // An HTML run.
+    explicit PageOutput(clsHtmlExporter *html) : m_printer(nullptr), m_painter(nullptr), m_pdf(nullptr), m_html(html) {}
+    int Mode() const { return m_html ? kHtmlMode : m_pdf ? 3 : 1; }
+    // The step whose pages follow (HTML names its sections after it).
+    void BeginStep(const PrintStep &step);
     void OutputPage(TopicPage &form);
     void OutputTextPage(TextPage &page);
     // Ends the current printer sheet without starting another (a new one begins with the next page).
@@ -115,5 +122,6 @@ private:
     QPrinter *m_printer;
     QPainter *m_painter;
     clsPDFExporter *m_pdf;
+    clsHtmlExporter *m_html = nullptr;
     int m_sheets = 0;
 };

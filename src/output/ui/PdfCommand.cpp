@@ -54,7 +54,7 @@ int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err)
     const QString usage = kPdfUsage.arg(keys.join(QLatin1Char(',')));
     const QList<QCommandLineOption> extra{
         {QStringLiteral("out"), QStringLiteral("The PDF file to write."), QStringLiteral("FILE")},
-        {QStringLiteral("topics"), QStringLiteral("Print-tree keys, comma separated."), QStringLiteral("KEYS")},
+        TopicsOption(),
     };
     return RunWithChart(args, out, err, extra, usage, [&](const QCommandLineParser &p, std::unique_ptr<clsPlanets> &chart, QSqlDatabase &db) {
         const QString file = p.value(QStringLiteral("out"));
@@ -62,17 +62,9 @@ int RunPdfCommand(const QStringList &args, QTextStream &out, QTextStream &err)
             err << "Missing --out FILE.\n" << usage;
             return 2;
         }
-        QSet<QString> ticked(keys.begin(), keys.end());
-        if (p.isSet(QStringLiteral("topics"))) {
-            ticked.clear();
-            for (const QString &k : p.value(QStringLiteral("topics")).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
-                if (!keys.contains(k.trimmed())) {
-                    err << "Unknown topic key: " << k.trimmed() << '\n' << usage;
-                    return 2;
-                }
-                ticked.insert(k.trimmed());
-            }
-        }
+        QSet<QString> ticked;
+        if (const int status = ReadTopics(p, keys, ticked, err, usage))
+            return status;
         SessionGlobals &s = Session();
         s.ProgMode = 1;
         s.TextDB = db;

@@ -16,6 +16,7 @@ int WalkSteps(const QList<PrintStep> &steps, PageCache &pages, PageOutput &out, 
         const PrintStep &step = steps[i];
         TopicPage *page = pages.load(step.Page);
         if (page) {
+            out.BeginStep(step);
             if (step.MakePage > 0)
                 page->MakePage(step.MakePage);
             if (step.Kind == StepKind::Text) {

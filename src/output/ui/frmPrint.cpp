@@ -3,6 +3,7 @@
 
 #include "output/PageSets.h"
 #include "output/PrintTree.h"
+#include "output/ui/HtmlExport.h"
 #include "output/ui/PageCache.h"
 #include "output/ui/PageOutput.h"
 #include "output/ui/PrintRun.h"
@@ -124,10 +125,11 @@ frmPrint::frmPrint(PageCache &pages, QWidget *parent) : QDialog(parent), m_pages
 
 void frmPrint::setMode(int mode)
 {
-    m_mode = mode == 1 ? 1 : 3;
+    m_mode = mode == 1 ? 1 : mode == PageOutput::kHtmlMode ? mode : 3;
     const bool print = m_mode == 1;
-    setWindowTitle(print ? QStringLiteral("Select Topics To Print") : QStringLiteral("Select Topics To Export PDF"));
-    frmSelPages->setTitle(print ? QStringLiteral("Select Page Set To Print") : QStringLiteral("Select Page Set To Export PDF"));
+    const QString format = m_mode == 3 ? QStringLiteral("PDF") : QStringLiteral("HTML");
+    setWindowTitle(print ? QStringLiteral("Select Topics To Print") : QStringLiteral("Select Topics To Export ") + format);
+    frmSelPages->setTitle(print ? QStringLiteral("Select Page Set To Print") : QStringLiteral("Select Page Set To Export ") + format);
     cmdPrint->setText(print ? QStringLiteral("&Print") : QStringLiteral("&Export"));
     cmdPrintSet->setEnabled(print);
 }
@@ -242,11 +244,23 @@ bool frmPrint::cmdPrint_Click(const QString &file)
         return false;
     }
 
+    m_exported.clear();
+    m_exportedFiles.clear();
+    if (m_mode == PageOutput::kHtmlMode) {
+        QString folder = file.isEmpty() ? m_target : file;
+        if (folder.isEmpty())
+            folder = QFileDialog::getExistingDirectory(this, QStringLiteral("Export HTML"),
+                                                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+        if (folder.isEmpty())
+            return false; // cancelled: nothing written
+        return exportHtml(folder);
+    }
+
     clsPDFExporter pdf;
     QPrinter printer(QPrinter::HighResolution);
     QPainter painter;
     if (m_mode == 3) {
-        pdf.filename = file;
+        pdf.filename = file.isEmpty() ? m_target : file;
         if (pdf.filename.isEmpty()) {
             const QString name = DefaultPdfName(s.ProgMode, personName(s.CurPlanets.get()), personName(s.BoyPlanets.get()),
                                                 personName(s.GalPlanets.get()));
@@ -310,5 +324,44 @@ bool frmPrint::cmdPrint_Click(const QString &file)
                              QStringLiteral("The file %1 could not be completed.").arg(QDir::toNativeSeparators(pdf.filename)));
     }
     m_pages.UnloadPages();
+    if (ok && m_mode == 3)
+        m_exported = pdf.filename;
     return ok;
+}
+
+bool frmPrint::exportHtml(const QString &folder)
+{
+    const SessionGlobals &s = Session();
+    Output().PrintAbort = false;
+    clsHtmlExporter html;
+    html.folder = folder;
+    QString why;
+    if (!html.StartExport(&why)) {
+        QMessageBox::warning(this, QStringLiteral("Export HTML"), why);
+        return false;
+    }
+    frmStatus status(this);
+    status.ExportStatus();
+    status.show();
+    PageOutput out(&html);
+    PrintRunHooks hooks;
+    hooks.progress = [&status](int percent) { status.Proggy->setValue(percent); };
+    const QList<PrintStep> steps = SelectedSteps(s.ProgMode, s.Language.Extended, tickedKeys());
+    if (s.ProgMode == 4 && s.CurPlanets) {
+        const int firstAge = static_cast<int>(Val(txtStartYear->text())) - static_cast<int>(s.CurPlanets->Person().Year());
+        QString error;
+        WalkAnnualYears(steps, m_pages, out, firstAge, qMin(txtYearCount->value(), 100 - firstAge), hooks, &error);
+        if (!error.isEmpty())
+            QMessageBox::warning(this, QStringLiteral("Varshaphala"), error);
+    } else {
+        WalkSteps(steps, m_pages, out, hooks);
+    }
+    m_pages.UnloadPages();
+    if (!html.FinishFile(&why)) {
+        QMessageBox::warning(this, QStringLiteral("Export HTML"), why);
+        return false;
+    }
+    m_exported = folder;
+    m_exportedFiles = html.files();
+    return true;
 }

@@ -23,15 +23,21 @@ public:
     // pages: the session's loaded pages, which the run uses and unloads at its end.
     explicit frmPrint(PageCache &pages, QWidget *parent = nullptr);
 
-    // 1 print, 3 PDF export (2 reads as 3).
+    // 1 print, 3 PDF export (2 reads as 3), 5 HTML export.
     int Mode() const { return m_mode; }
     void setMode(int mode);
+    // Where the export goes without asking: the PDF file, or the HTML folder. Empty asks.
+    void setTarget(const QString &path) { m_target = path; }
+    // After a run that wrote a file: the PDF file, or the HTML folder.
+    QString exportedPath() const { return m_exported; }
+    // After an HTML run: the files written, relative to the folder.
+    QStringList exportedFiles() const { return m_exportedFiles; }
 
     // The ticked node keys.
     QSet<QString> tickedKeys() const;
     void setTicked(const QString &key, bool on);
-    // Runs the walk over the ticked topics; for PDF into file (asked for when empty). True when
-    // the walk ran to its end.
+    // Runs the walk over the ticked topics; for PDF into file, for HTML into the folder file (asked
+    // for when empty and no target is set). True when the walk ran to its end.
     bool cmdPrint_Click(const QString &file = QString());
     void cmdSelSave_Click();
     void cmdSelDel_Click();
@@ -52,6 +58,9 @@ private:
     void fillSets(const QString &keep = QString());
     void nodeTicked(QTreeWidgetItem *item);
     PageCache &m_pages;
+    bool exportHtml(const QString &folder);
     int m_mode = 1;
+    QString m_target, m_exported;
+    QStringList m_exportedFiles;
     bool m_ticking = false;
 };

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "output/ui/frmEmail.h"
+
+#include "output/HoroZip.h"
+#include "output/ui/PageOutput.h"
+#include "session/Session.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTextEdit>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+QString personName(const clsPlanets *c) { return c ? c->Person().Name() : QString(); }
+
+// The working folder of the archive; it is emptied at each send, as the mail program may read
+// the archive after the send has returned.
+QString workFolder() { return QDir(QStandardPaths::writableLocation(QStandardPaths::CacheLocation)).filePath(QStringLiteral("mail")); }
+} // namespace
+
+frmEmail::frmEmail(SendMode mode, const QString &folder, const QStringList &files, QWidget *parent)
+    : QDialog(parent), m_mode(mode), m_folder(folder), m_files(files),
+      m_saveFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+{
+    setObjectName(QStringLiteral("frmEmail"));
+    setWindowTitle(QStringLiteral("Send by Email"));
+    auto *v = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    txtMailTo = new QLineEdit;
+    txtMailTo->setObjectName(QStringLiteral("txtMailTo"));
+    txtSubject = new QLineEdit(DefaultSubject());
+    txtSubject->setObjectName(QStringLiteral("txtSubject"));
+    txtMailText = new QTextEdit;
+    txtMailText->setObjectName(QStringLiteral("txtMailText"));
+    txtMailText->setAcceptRichText(false);
+    txtMailText->setPlainText(DefaultText(mode));
+    txtMailText->setMinimumSize(440, 180);
+    form->addRow(QStringLiteral("&To:"), txtMailTo);
+    form->addRow(QStringLiteral("&Subject:"), txtSubject);
+    v->addLayout(form);
+    auto *hint = new QLabel(QStringLiteral("This message will be send in the Email by default. You may add your own message or modify this"));
+    hint->setWordWrap(true);
+    v->addWidget(hint);
+    v->addWidget(txtMailText, 1);
+    lblStatus = new QLabel;
+    lblStatus->setObjectName(QStringLiteral("lblStatus"));
+    v->addWidget(lblStatus);
+    auto *buttons = new QHBoxLayout;
+    cmdSendMail = new QPushButton(QStringLiteral("&Send"));
+    cmdSendMail->setObjectName(QStringLiteral("cmdSendMail"));
+    cmdSendMail->setDefault(true);
+    auto *cancel = new QPushButton(QStringLiteral("&Cancel"));
+    buttons->addStretch(1);
+    buttons->addWidget(cmdSendMail);
+    buttons->addWidget(cancel);
+    v->addLayout(buttons);
+
+    tell = [this](const QString &title, const QString &text, bool problem) {
+        if (problem)
+            QMessageBox::warning(this, title, text);
+        else
+            QMessageBox::information(this, title, text);
+    };
+    openFolder = [](const QString &path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); };
+    connect(cmdSendMail, &QPushButton::clicked, this, [this] {
+        if (!Validated())
+            return;
+        const MailOutcome o = cmdSendMail_Click();
+        if (o.kind != MailOutcome::Failed)
+            accept();
+    });
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QString frmEmail::DefaultSubject()
+{
+    const SessionGlobals &s = Session();
+    switch (s.ProgMode) {
+    case 2:
+        return personName(s.BoyPlanets.get()) + QStringLiteral(" & ") + personName(s.GalPlanets.get()) + QStringLiteral("'s Match Details");
+    case 4:
+        return personName(s.CurPlanets.get()) + QStringLiteral("'s Varshaphala");
+    default:
+        return personName(s.CurPlanets.get()) + QStringLiteral("'s Horoscope");
+    }
+}
+
+QString frmEmail::DefaultText(SendMode mode)
+{
+    const QString name = HeaderName(QStringLiteral(" & "));
+    QString text =
+        mode == Html
+            ? QStringLiteral("The attached zip file (Horo.zip) contains a Horoscope for PERNAME. To view the horoscope save the Zip file in "
+                             "your root directory i.e. 'C:\\'(the zip file may not work if not saved in root directory) and unzip it.The "
+                             "horoscope is in HTML format and can be viewed using IE or Netscape, to view it click on Index.HTML.\n"
+                             "--------------------------------------------------\n\n")
+            : QStringLiteral("The attached zip file (Horo.zip) contains a Horoscope for PERNAME. To view the horoscope save the Zip file on "
+                             "your hard disk.The horoscope is in PDF format and can be viewed using Adobe Acrobat Reader.\n"
+                             "Adobe Acrobat Reader is free from https://get.adobe.com/reader/\n"
+                             "--------------------------------------------------\n\n");
+    return text.replace(QStringLiteral("PERNAME"), name);
+}
+
+QString frmEmail::MailBody(const QString &text)
+{
+    return text + QStringLiteral("\nHoroscope Generated by ") + QApplication::applicationName() + QStringLiteral("\nMeridane Software\n");
+}
+
+bool frmEmail::Validated()
+{
+    const QString to = txtMailTo->text().trimmed();
+    if (to.contains(QLatin1Char('.')) && to.contains(QLatin1Char('@')))
+        return true;
+    tell(QStringLiteral("Invalid Email Address."), QStringLiteral("Please type a valid Email address."), true);
+    txtMailTo->setFocus();
+    return false;
+}
+
+MailOutcome frmEmail::cmdSendMail_Click()
+{
+    lblStatus->setText(QStringLiteral("Zipping files...."));
+    QApplication::processEvents();
+    const QString zip = QDir(workFolder()).filePath(QLatin1String(HoroZip::kAttachmentName));
+    QList<ZipEntry> entries;
+    for (const QString &f : m_files)
+        entries.append({f, QDir(m_folder).filePath(f)});
+    QString why;
+    MailOutcome o;
+    if (!QDir().mkpath(workFolder()) || !HoroZip::Write(zip, entries, &why)) {
+        o.Title = QStringLiteral("Error Sending Mail");
+        o.Text = why.isEmpty() ? QStringLiteral("The folder %1 can't be written.").arg(QDir::toNativeSeparators(workFolder())) : why;
+    } else {
+        lblStatus->setText(QStringLiteral("Opening your mail program...."));
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        QApplication::processEvents();
+        o = m_sender.Send({txtMailTo->text().trimmed(), txtSubject->text(), MailBody(txtMailText->toPlainText()), zip}, m_saveFolder);
+        QApplication::restoreOverrideCursor();
+    }
+    lblStatus->clear();
+    if (o.openFolder() && openFolder)
+        openFolder(QFileInfo(o.SavedFile).absolutePath());
+    tell(o.Title, o.Text, o.kind != MailOutcome::Handed);
+    return o;
+}
