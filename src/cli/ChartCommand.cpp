@@ -3,6 +3,8 @@
 
 #include "cli/BirthOptions.h"
 #include "dasha/clsDashaVimshottari.h"
+#include "kp/KPJson.h"
+#include "kp/clsKPSystem.h"
 #include "muhurtha/clsSadeSati.h"
 #include "sky/Functions.h"
 #include "sky/MessageSink.h"
@@ -96,6 +98,7 @@ QJsonObject ChartCastJson(const clsPlanets &chart)
     o.insert(QStringLiteral("kp_cusps"), cusps);
     // Beyond the polar circles Placidus has no cusps, and the library's are Porphyry's.
     o.insert(QStringLiteral("kp_cusps_system"), chart.KPHousesPlacidus() ? QStringLiteral("Placidus") : QStringLiteral("Porphyry"));
+    o.insert(QStringLiteral("kp"), KPJson(clsKPSystem(chart)));
     QJsonArray mids, begins;
     for (int i = 0; i <= 12; ++i) {
         mids.append(chart.BhavMid(i));
