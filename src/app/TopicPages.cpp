@@ -3,6 +3,10 @@
 
 #include "cli/MatchCommand.h"
 #include "dasha/pages/frmVimsot.h"
+#include "kp/pages/frmKP1.h"
+#include "kp/pages/frmKP2.h"
+#include "kp/pages/frmKP3.h"
+#include "kp/pages/frmKP4.h"
 #include "marriage/pages/frmMarCover.h"
 #include "marriage/pages/frmMarFront.h"
 #include "marriage/pages/frmMarScore.h"
@@ -51,6 +55,10 @@ void RegisterTopicPages()
     RegisterTopicPage(QStringLiteral("frmBhinnaAshtak2"), bhinna<2>);
     page<frmAshtak>("frmAshtak");
     page<frmShadbala>("frmShadbala");
+    page<frmKP1>("frmKP1");
+    page<frmKP2>("frmKP2");
+    page<frmKP3>("frmKP3");
+    page<frmKP4>("frmKP4");
     page<frmVimsot>("frmVimsot");
     page<frmPratyan>("frmPratyan");
     page<frmPrediYogas>("frmPrediYogas");

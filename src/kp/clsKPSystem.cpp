@@ -188,6 +188,8 @@ int clsKPSystem::PlanetSignifScore(int planet, int cusp) const
     return score;
 }
 
+int clsKPSystem::SignifBand(int score) { return score < 8 ? 0 : score <= 14 ? 1 : score <= 21 ? 2 : 3; }
+
 bool clsKPSystem::PlanetInBhava(int planet, int cusp) const
 {
     if (!isCusp(cusp) || !isPlanet(planet))
@@ -219,10 +221,13 @@ void clsKPSystem::FillBhavaKundali(KundaliModel &k, bool english) const
     const int rising = Sign(0);
     k.setHouseNumber(rising);
     k.PlanetPlace(rising, nameOf(m_chart, 0, english));
-    for (int p = 1; p <= 12; ++p)
+    for (int p = 1; p <= 12; ++p) {
+        // On a cusp a planet is in both houses that meet there; it is shown in the one that begins.
+        int shown = 0;
         for (int house = 1; house <= 12; ++house)
-            if (PlanetInBhava(p, house)) {
-                k.PlanetPlace(Norm12(rising + house - 1), nameOf(m_chart, p, english));
-                break;
-            }
+            if (PlanetInBhava(p, house) && (shown == 0 || PlntLongi(p) == CuspLongi(house)))
+                shown = house;
+        if (shown != 0)
+            k.PlanetPlace(Norm12(rising + shown - 1), nameOf(m_chart, p, english));
+    }
 }

@@ -56,6 +56,9 @@ public:
     bool PlanetIsSignificator(int planet, int cusp) const;
     // Sum of the scores of the tests that hold, 0..30.
     int PlanetSignifScore(int planet, int cusp) const;
+    // The strength band of a significator's score: 0 weak (below 8), 1 moderate (8..14),
+    // 2 strong (15..21), 3 very strong (22 and above).
+    static int SignifBand(int score);
     // True when the planet stands in the house, cusps included at both ends (the Bhava chart's rule).
     bool PlanetInBhava(int planet, int cusp) const;
 
@@ -73,8 +76,8 @@ public:
 
     // The sign chart: positions 1..12 in their KP signs, the Lagna's KP sign rising.
     void FillSignKundali(KundaliModel &k, bool english = false) const;
-    // The Bhava chart: the Lagna's KP sign rising, each planet 1..12 in the first house that holds
-    // it by PlanetInBhava.
+    // The Bhava chart: the Lagna's KP sign rising, each planet 1..12 in the house that holds it by
+    // PlanetInBhava; a planet exactly on a cusp in the house that begins there.
     void FillBhavaKundali(KundaliModel &k, bool english = false) const;
 
 private:
