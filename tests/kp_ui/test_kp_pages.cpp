@@ -9,12 +9,18 @@
 #include "kp/pages/frmKP2.h"
 #include "kp/pages/frmKP3.h"
 #include "kp/pages/frmKP4.h"
+#include "muhurtha/pages/frmHoroReckoner.h"
+#include "output/PrintTree.h"
+#include "output/ui/PageCache.h"
+#include "output/ui/PrintRun.h"
 #include "output_ui/DelhiSession.h"
 #include "sky/AppSettings.h"
 #include "sky/Functions.h"
 #include "support/RecordingSink.h"
 
+#include <QAction>
 #include <QDir>
+#include <QMenu>
 
 #include <gtest/gtest.h>
 
@@ -140,6 +146,53 @@ TEST_F(KPPages, TheKundlisPagePlacesThePlanetsByTheRecast)
     const QStringList all = texts(*page);
     EXPECT_TRUE(all.join('\n').contains(c.NakLordName(c.NakOf(7)) + "  "));
     EXPECT_TRUE(all.contains(c.PlanetNameFull(c.WeekDayLord())));
+}
+
+TEST_F(KPPages, QuickViewOffersTheKPLagnaChart)
+{
+    const auto page = load<frmHoroReckoner>();
+    QAction *kpLagna = nullptr;
+    for (QAction *a : page->mnuPopup()->actions())
+        if (a->menu() && a->text() == "Kundlis")
+            for (QAction *b : a->menu()->actions())
+                if (b->text() == "KP Lagna Kundli")
+                    kpLagna = b;
+    ASSERT_NE(kpLagna, nullptr);
+    kpLagna->trigger();
+    const clsKPSystem &kp = *SessionKP();
+    EXPECT_EQ(page->lblKun2->text(), "KP Lagna Kundli");
+    EXPECT_EQ(page->Kun2->model().HouseNumber(), kp.Sign(0));
+    for (int n = 1; n <= 9; ++n)
+        EXPECT_TRUE(inSign(page->Kun2, kp.Sign(n)).contains(clsPlanets::PlanetNameEng(n))) << n;
+}
+
+TEST_F(KPPages, TheFourKeysExportToPdfInTheirOrder)
+{
+    const QString file = dir.filePath("kp.pdf");
+    clsPDFExporter pdf;
+    pdf.filename = file;
+    ASSERT_TRUE(pdf.StartExport());
+    Output().PageCounter = 1;
+    PageCache pages;
+    PageOutput out(nullptr, nullptr, &pdf);
+    const QSet<QString> keys{"KPLONG", "KPSIGN1", "KPSIGN2", "KPKUN"};
+    const QList<PrintStep> steps = SelectedSteps(1, false, keys);
+    ASSERT_EQ(steps.size(), 4);
+    EXPECT_EQ(WalkSteps(steps, pages, out), 4);
+    EXPECT_EQ(pdf.surface().PageCount(), 4);
+    ASSERT_TRUE(pdf.FinishFile());
+    const QString text = pdfText(file);
+    if (text.isEmpty())
+        GTEST_SKIP() << "pdftotext is not installed";
+    EXPECT_FALSE(text.contains("Item Not Found"));
+    int at = 0;
+    // Headings without "fi", which the PDF may set as a ligature.
+    for (const char *heading : {"Krishnamurthy Longitudes", "Sign-Star-Sub Lord", "Very Strong", "D: In Star of B",
+                                "Sub Lord", "Ruling Planets", "KP Bhava Chalit"}) {
+        const int found = static_cast<int>(text.indexOf(heading, at));
+        EXPECT_GE(found, at) << heading;
+        at = qMax(at, found);
+    }
 }
 
 TEST_F(KPPages, Screenshots)
