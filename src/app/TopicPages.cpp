@@ -6,6 +6,10 @@
 #include "jaimini/pages/frmJaimini1.h"
 #include "jaimini/pages/frmJaimini2.h"
 #include "jaimini/pages/frmJaimini3.h"
+#include "kp/pages/frmKP1.h"
+#include "kp/pages/frmKP2.h"
+#include "kp/pages/frmKP3.h"
+#include "kp/pages/frmKP4.h"
 #include "marriage/pages/frmMarCover.h"
 #include "marriage/pages/frmMarFront.h"
 #include "marriage/pages/frmMarScore.h"
@@ -63,6 +67,10 @@ void RegisterTopicPages()
     page<frmJaimini1>("frmJaimini1");
     page<frmJaimini2>("frmJaimini2");
     page<frmJaimini3>("frmJaimini3");
+    page<frmKP1>("frmKP1");
+    page<frmKP2>("frmKP2");
+    page<frmKP3>("frmKP3");
+    page<frmKP4>("frmKP4");
     page<frmVimsot>("frmVimsot");
     page<frmPratyan>("frmPratyan");
     page<frmPrediYogas>("frmPrediYogas");

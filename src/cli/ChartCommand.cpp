@@ -6,6 +6,8 @@
 #include "jaimini/JaiminiDashaJson.h"
 #include "jaimini/JaiminiJson.h"
 #include "jaimini/clsJaimini.h"
+#include "kp/KPJson.h"
+#include "kp/clsKPSystem.h"
 #include "muhurtha/clsSadeSati.h"
 #include "sky/Functions.h"
 #include "sky/MessageSink.h"
@@ -116,6 +118,7 @@ QJsonObject ChartCastJson(const clsPlanets &chart)
     o.insert(QStringLiteral("kp_cusps"), cusps);
     // Beyond the polar circles Placidus has no cusps, and the library's are Porphyry's.
     o.insert(QStringLiteral("kp_cusps_system"), chart.KPHousesPlacidus() ? QStringLiteral("Placidus") : QStringLiteral("Porphyry"));
+    o.insert(QStringLiteral("kp"), KPJson(clsKPSystem(chart)));
     QJsonArray mids, begins;
     for (int i = 0; i <= 12; ++i) {
         mids.append(chart.BhavMid(i));

@@ -8,6 +8,7 @@ void SessionGlobals::ReleaseCharts()
     GalPlanets.reset();
     VarshaPlanets.reset();
     Marr.reset();
+    KP.reset();
     Muhurtha.reset();
 }
 

@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class clsKPSystem;
 class clsMarr;
 
 // Font sizes and weights of the chosen language (one row of table Language).
@@ -42,8 +43,10 @@ struct SessionGlobals
     // The match of BoyPlanets and GalPlanets, made on first use (marriage/MarrSession.h) and
     // dropped with the charts.
     std::shared_ptr<clsMarr> Marr;
+    // The KP recast of CurPlanets, made on first use (kp/KPSession.h) and dropped with the charts.
+    std::shared_ptr<clsKPSystem> KP;
 
-    // Releases the four charts, the match made from them and the electional search.
+    // Releases the four charts, the match and the KP recast made from them and the electional search.
     void ReleaseCharts();
 };
 

@@ -6,6 +6,8 @@
 #include "dasha/clsDashaVimshottari.h"
 #include "jaimini/JaiminiCharts.h"
 #include "jaimini/clsJaimini.h"
+#include "kp/KPSession.h"
+#include "kp/clsKPSystem.h"
 #include "output/ui/PageParts.h"
 #include "sky/Functions.h"
 #include "sky/clsPlanets.h"
@@ -113,6 +115,12 @@ void frmHoroReckoner::ShowChart(ChartKind kind, int row)
         c.FillBhavaKundaliEnglish(k);
         lblKun2->setText(qv("Bhava Chalit Chakra"));
         break;
+    case ChartKind::KPLagna:
+        // The planets in their signs under the KP ayanamsa.
+        if (const clsKPSystem *kp = SessionKP())
+            kp->FillSignKundali(k, true);
+        lblKun2->setText(qv("KP Lagna"));
+        break;
     case ChartKind::Varga:
         if (row < 2 || row > 16)
             return;
@@ -209,6 +217,7 @@ void frmHoroReckoner::buildMenu()
     kundlis->addAction(QStringLiteral("Lagna Kundli"), this, [this] { ShowChart(ChartKind::Lagna); });
     kundlis->addAction(QStringLiteral("Chandra Kundli"), this, [this] { ShowChart(ChartKind::Chandra); });
     kundlis->addAction(QStringLiteral("Bhava Chalit Chakra"), this, [this] { ShowChart(ChartKind::BhavaChalit); });
+    kundlis->addAction(QStringLiteral("KP Lagna Kundli"), this, [this] { ShowChart(ChartKind::KPLagna); });
     QMenu *sodash = m_popup->addMenu(QStringLiteral("Shodashvarga Kundlis"));
     sodash->setObjectName(QStringLiteral("mnuPopupSodash"));
     static constexpr std::array<const char *, 15> kVargas{

@@ -17,7 +17,7 @@ public:
     explicit frmHoroReckoner(QWidget *parent = nullptr);
 
     // What the second chart shows.
-    enum class ChartKind { Lagna, Chandra, BhavaChalit, Varga, Jaimini };
+    enum class ChartKind { Lagna, Chandra, BhavaChalit, Varga, Jaimini, KPLagna };
     // What the table beside the bars shows.
     enum class TableKind { Panchang, Vimshottari, PlanetTotal, SignTotal };
 
