@@ -2,7 +2,9 @@
 #include "app/TopicPages.h"
 
 #include "cli/MatchCommand.h"
+#include "dasha/pages/frmTribhagi.h"
 #include "dasha/pages/frmVimsot.h"
+#include "dasha/pages/frmYogini.h"
 #include "marriage/pages/frmMarCover.h"
 #include "marriage/pages/frmMarFront.h"
 #include "marriage/pages/frmMarScore.h"
@@ -17,6 +19,7 @@
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
 #include "sky/pages/frmSodash.h"
+#include "sky/pages/frmUpagraha.h"
 #include "strength/pages/frmAshtak.h"
 #include "strength/pages/frmBhav.h"
 #include "strength/pages/frmShadbala.h"
@@ -47,12 +50,15 @@ void RegisterTopicPages()
     page<frmPage2>("frmPage2");
     page<frmSodash>("frmSodash");
     page<frmBhav>("frmBhav");
+    page<frmUpagraha>("frmUpagraha");
     RegisterTopicPage(QStringLiteral("frmBhinnaAshtak"), bhinna<1>);
     RegisterTopicPage(QStringLiteral("frmBhinnaAshtak2"), bhinna<2>);
     page<frmAshtak>("frmAshtak");
     page<frmShadbala>("frmShadbala");
     page<frmVimsot>("frmVimsot");
     page<frmPratyan>("frmPratyan");
+    page<frmTribhagi>("frmTribhagi");
+    page<frmYogini>("frmYogini");
     page<frmPrediYogas>("frmPrediYogas");
     page<frmForText>("frmForText");
     page<frmSadeSati>("frmSadeSati");
