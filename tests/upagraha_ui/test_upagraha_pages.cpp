@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The upagraha and dasha pages show the chart's own points and periods, say so plainly where the
-// Sun doesn't rise or set, leave the stored school alone, go to PDF with every word found, and the
-// Quick View menu opens the three dashas.
+// Sun doesn't rise or set, and leave the stored school alone; the Quick View menu opens the three
+// dashas. (The PDF of every topic, these with them, is checked with the print walk.)
 #include "dasha/TribhagiDasha.h"
 #include "dasha/YoginiDasha.h"
 #include "dasha/pages/frmTribhagi.h"
 #include "dasha/pages/frmYogini.h"
 #include "muhurtha/pages/frmHoroReckoner.h"
 #include "output_ui/DelhiSession.h"
-#include "output/ui/PdfCommand.h"
 #include "sky/pages/frmUpagraha.h"
 #include "support/RecordingSink.h"
 
@@ -163,19 +162,4 @@ TEST_F(UpagrahaPages, QuickViewOpensTheThreeDashas)
     EXPECT_FALSE(words(page).contains(Yogini::ShatTrimshaDasha(c)[15].End.toString("dd/MM/yyyy")))
         << "the table before is gone";
     shoot(page, "page-hororeckoner-yogini.png");
-}
-
-TEST_F(UpagrahaPages, ThePdfOfTheThreePagesFindsEveryWord)
-{
-    const QString file = dir.filePath("Asha-Horoscope.PDF");
-    QString said;
-    QTextStream out(&said), err(&said);
-    ASSERT_EQ(WriteSessionPdf(1, {"Upagraha", "Tribhagi", "Yogini"}, file, out, err), 0) << said.toStdString();
-    const QString text = pdfText(file);
-    if (text.isEmpty())
-        GTEST_SKIP() << "pdftotext is not installed";
-    EXPECT_FALSE(text.contains("Item Not Found"));
-    EXPECT_EQ(text.count(QChar('\f')), 3) << "one sheet each";
-    for (const char *words : {"Day Based Upagrahas (Kalidasa)", "Tribhagi Dasha", "Shat Trimsha Dasha"})
-        EXPECT_TRUE(text.contains(words)) << words;
 }
