@@ -2,6 +2,7 @@
 #include "app/TopicPages.h"
 
 #include "cli/MatchCommand.h"
+#include "dasha/pages/frmTribhagi.h"
 #include "dasha/pages/frmVimsot.h"
 #include "jaimini/pages/frmJaimini1.h"
 #include "jaimini/pages/frmJaimini2.h"
@@ -10,6 +11,7 @@
 #include "kp/pages/frmKP2.h"
 #include "kp/pages/frmKP3.h"
 #include "kp/pages/frmKP4.h"
+#include "dasha/pages/frmYogini.h"
 #include "marriage/pages/frmMarCover.h"
 #include "marriage/pages/frmMarFront.h"
 #include "marriage/pages/frmMarScore.h"
@@ -24,6 +26,7 @@
 #include "sky/pages/frmPage1.h"
 #include "sky/pages/frmPage2.h"
 #include "sky/pages/frmSodash.h"
+#include "sky/pages/frmUpagraha.h"
 #include "strength/pages/frmAshtak.h"
 #include "strength/pages/frmBhav.h"
 #include "strength/pages/frmKaraka.h"
@@ -57,6 +60,7 @@ void RegisterTopicPages()
     page<frmPage2>("frmPage2");
     page<frmSodash>("frmSodash");
     page<frmBhav>("frmBhav");
+    page<frmUpagraha>("frmUpagraha");
     RegisterTopicPage(QStringLiteral("frmBhinnaAshtak"), bhinna<1>);
     RegisterTopicPage(QStringLiteral("frmBhinnaAshtak2"), bhinna<2>);
     page<frmAshtak>("frmAshtak");
@@ -73,6 +77,8 @@ void RegisterTopicPages()
     page<frmKP4>("frmKP4");
     page<frmVimsot>("frmVimsot");
     page<frmPratyan>("frmPratyan");
+    page<frmTribhagi>("frmTribhagi");
+    page<frmYogini>("frmYogini");
     page<frmPrediYogas>("frmPrediYogas");
     page<frmForText>("frmForText");
     page<frmSadeSati>("frmSadeSati");

@@ -2,6 +2,8 @@
 #include "cli/ChartCommand.h"
 
 #include "cli/BirthOptions.h"
+#include "dasha/TribhagiDasha.h"
+#include "dasha/YoginiDasha.h"
 #include "dasha/clsDashaVimshottari.h"
 #include "jaimini/JaiminiDashaJson.h"
 #include "jaimini/JaiminiJson.h"
@@ -26,6 +28,10 @@ namespace {
 
 inline constexpr std::array<const char *, 13> kPlanetNames{
     "Lagna", "Sun", "Mercury", "Venus", "Mars", "Jupiter", "Saturn", "Moon", "Rahu", "Ketu", "Uranus", "Neptune", "Pluto"};
+// The upagrahas 1..17 as the JSON names them.
+inline constexpr std::array<const char *, 17> kUpagrahaKeys{
+    "dhuma", "vyatipata", "parivesha", "indrachapa", "upaketu", "bhukampa", "ulka", "brahmadanda", "dhwaja",
+    "kala", "paridhi", "mrityu", "ardhaprahara", "yamakantaka", "kodanda", "gulika", "mandi"};
 inline constexpr std::array<const char *, 12> kSignNames{
     "Aries", "Taurus", "Gemini", "Cancer", "Leo", "Virgo", "Libra", "Scorpio", "Sagittarius", "Capricorn", "Aquarius", "Pisces"};
 
@@ -77,6 +83,55 @@ QJsonArray maitriJson(const clsPlanets &chart)
         rows.append(row);
     }
     return rows;
+}
+
+QString dashaMoment(const QDateTime &d) { return d.toString(QStringLiteral("dd/MM/yyyy hh:mm")); }
+
+QJsonObject dashaRow(int lord, const QDateTime &start, const QDateTime &end)
+{
+    return QJsonObject{{QStringLiteral("lord"), lord}, {QStringLiteral("start"), dashaMoment(start)}, {QStringLiteral("end"), dashaMoment(end)}};
+}
+
+QJsonArray yoginiJson(const YoginiRows &rows)
+{
+    QJsonArray out;
+    for (const YoginiPeriod &r : rows) {
+        QJsonObject o = dashaRow(Yogini::Lord(r.K), r.Start, r.End);
+        o.insert(QStringLiteral("yogini"), r.K);
+        out.append(o);
+    }
+    return out;
+}
+
+// The Tribhagi Mahas with their bhuktis, and the Yogini and Shat Trimsha rows; lords are planet
+// numbers, the eight-fold cycle's place goes with them as "yogini" (0 Sankata .. 7 Siddha).
+QJsonObject dashasJson(const clsPlanets &chart)
+{
+    QJsonArray tribhagi;
+    for (const TribhagiMaha &m : Tribhagi::Mahas(chart)) {
+        QJsonObject o = dashaRow(m.Period.Lord, m.Period.Start, m.Period.End);
+        QJsonArray bhuktis;
+        for (const TribhagiPeriod &b : m.Bhuktis)
+            bhuktis.append(dashaRow(b.Lord, b.Start, b.End));
+        o.insert(QStringLiteral("bhuktis"), bhuktis);
+        tribhagi.append(o);
+    }
+    return QJsonObject{{QStringLiteral("tribhagi"), tribhagi},
+                       {QStringLiteral("yogini"), yoginiJson(Yogini::YoginiDasha(chart))},
+                       {QStringLiteral("shat_trimsha"), yoginiJson(Yogini::ShatTrimshaDasha(chart))}};
+}
+
+// The seventeen upagrahas in the school in force; the day-based ones and Mandi are null where the
+// Sun doesn't rise or set that day.
+QJsonArray upagrahasJson(const clsPlanets &chart)
+{
+    QJsonArray out;
+    for (int n = 1; n <= 17; ++n)
+        out.append(QJsonObject{{QStringLiteral("n"), n},
+                               {QStringLiteral("key"), QString::fromLatin1(kUpagrahaKeys[static_cast<size_t>(n - 1)])},
+                               {QStringLiteral("longitude"),
+                                chart.UpagrahaKnown(n) ? QJsonValue(chart.UpagrahaLongi(n)) : QJsonValue(QJsonValue::Null)}});
+    return out;
 }
 
 } // namespace
@@ -151,6 +206,7 @@ QJsonObject ChartCastJson(const clsPlanets &chart)
                                  {QStringLiteral("start"), m.Start.toString(QStringLiteral("dd/MM/yyyy hh:mm"))},
                                  {QStringLiteral("years"), m.Years}});
     o.insert(QStringLiteral("vimshottari"), mahas);
+    o.insert(QStringLiteral("dashas"), dashasJson(chart));
     chart.AshTable();
     QJsonArray ashVarga, ashTotal;
     for (int varga = 0; varga <= 8; ++varga) {
@@ -185,6 +241,7 @@ QJsonObject ChartDayJson(const clsPlanets &chart)
                                                                          : QStringLiteral("polar night"));
     o.insert(QStringLiteral("day_start"), chart.SunRiseTime());
     o.insert(QStringLiteral("day_end"), chart.SunSetTime());
+    o.insert(QStringLiteral("upagrahas"), upagrahasJson(chart));
     clsShadBala sb(chart);
     QJsonArray shadbala;
     for (int p = 1; p <= 7; ++p)

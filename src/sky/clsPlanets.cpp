@@ -98,6 +98,7 @@ void clsPlanets::Calculate()
     ++g_calculateCount;
     calcPlanets();
     FillVargas();
+    forgetUpagrahas();
 }
 
 void clsPlanets::clearWorkingFields()

@@ -518,17 +518,75 @@ public:
     double UlkaLongi() const;
     double BrahmadandaLongi() const;
     double DhwajaLongi() const;
-    // Upagraha n: 1..9 the Sun-based points; 0 for the others until their moments are cast.
+    // The school of the day-based points: 1 takes each at the end of its part of the day or night,
+    // 2 at its start. Read from the store ("Settings", "UpagrahaMode", default 1) on first use and
+    // held; setting it writes the store and forgets the kept day-based points and sun times.
+    int UpagrahaMode() const;
+    void setUpagrahaMode(int v);
+    // The seven day-based points in the school in force: the Lagna when the given part of the day
+    // or night begins (KalaPartLagna), kept once worked out; 0 on a day without sunrise or sunset.
+    double KalaBelaLong() const { return DayPartUpagraha(10, UpagrahaMode()); }
+    double ParidhiLong() const { return DayPartUpagraha(11, UpagrahaMode()); }
+    double MrityuLong() const { return DayPartUpagraha(12, UpagrahaMode()); }
+    double ArdhaPraharLong() const { return DayPartUpagraha(13, UpagrahaMode()); }
+    double YamaKantakaLong() const { return DayPartUpagraha(14, UpagrahaMode()); }
+    double KodandaLong() const { return DayPartUpagraha(15, UpagrahaMode()); }
+    double GulikaLong() const { return DayPartUpagraha(16, UpagrahaMode()); }
+    // The Lagna at the weekday's ghatis after sunrise (by day) or sunset (by night); no school.
+    double MandiLong() const;
+    // Day-based point n (10..16) in school mode (1 or 2), whatever the setting; 0 outside.
+    double DayPartUpagraha(int n, int mode) const;
+    // The Lagna at the start of part d (by day) or t (by night), 0..7, counted from the weekday's
+    // lord; 0 on a day without sunrise or sunset.
+    double KalaPartLagna(int d, int t) const;
+    // True when the day or night of the birth has a real sunrise and sunset to count its parts
+    // from; where the Sun doesn't rise or set (SunDayKind) the points 10..17 have no value.
+    bool DayPartsHaveSun() const;
+    // The clock moment whose Lagna is point n (10..17) in school mode; invalid outside, or on a day
+    // without sunrise or sunset.
+    QDateTime UpagrahaMoment(int n, int mode) const;
+
+    // Upagraha n: 1..9 the Sun-based points, 10..16 the day-based ones in the school in force,
+    // 17 Mandi; 0 outside 1..17 and for 10..17 where DayPartsHaveSun is false.
     double UpagrahaLongi(int n) const;
+    // The same in school mode for the day-based points.
+    double UpagrahaLongiInMode(int n, int mode) const;
+    // True when point n has a value: 1..9 always, 10..17 when DayPartsHaveSun.
+    bool UpagrahaKnown(int n) const;
     // Its sign 1..12, nakshatra 1..27 and pada 1..4.
     int UpagrahaSign(int n) const;
     int UpagrahaNak(int n) const;
     int UpaNakPada(int n) const;
+    // Sign 1..12 of a longitude, 360 being the end of Pisces.
+    static int UpagrahaSignOf(double l);
+    int GulikaSign() const { return UpagrahaSignOf(GulikaLong()); }
     // Lord of the first five: 1 Mars, 2 Rahu, 3 Moon, 4 Venus, 5 Ketu; 0 for the others.
     static int UpagrahaLord(int n);
     // Names under heads "Upagrahas" and "UpagrahaSmall".
     QString UpagrahaName(int n) const;
     QString UpagrahaNameSmall(int n) const;
+
+private:
+    // Where the day or night of the birth begins: its date, its clock in hours, its length, whether
+    // it is the day, and its weekday 1..7.
+    struct DayPartFrame
+    {
+        QDate date;
+        double start = 0, span = 0;
+        bool day = true;
+        int weekday = 0;
+        bool valid = false;
+    };
+    const DayPartFrame &dayPartFrame() const;
+    QDateTime momentAfter(double hours) const;
+    QDateTime partMoment(int d, int t) const;
+    double lagnaAt(const QDateTime &moment) const;
+    void forgetUpagrahas() const;
+    mutable int m_upagrahaMode = 0;                               // 0 = not read yet
+    mutable std::array<std::array<double, 7>, 2> m_dayPartMemo{}; // [school - 1][n - 10]; 0 = not yet
+    mutable double m_mandiMemo = 0;                               // 0 = not yet
+    mutable std::optional<DayPartFrame> m_dayPartFrame;
+public:
     // ---- end of the upagrahas ----
 
     // ---- Divisional charts (clsPlanets_divisions.cpp) ----

@@ -3,6 +3,8 @@
 
 #include "chartdraw/ChartFill.h"
 #include "chartdraw/ui/Kundali.h"
+#include "dasha/TribhagiDasha.h"
+#include "dasha/YoginiDasha.h"
 #include "dasha/clsDashaVimshottari.h"
 #include "jaimini/JaiminiCharts.h"
 #include "jaimini/clsJaimini.h"
@@ -174,6 +176,35 @@ void frmHoroReckoner::ShowTable(TableKind kind)
         }
         break;
     }
+    case TableKind::Tribhagi: {
+        addLabel(QRect(x, y, kTableArea.width(), 24), qv("Tribhagi"), SubHead, Qt::AlignCenter);
+        const Table t = addTable(x, y + 28, {140, 100, 100}, 22,
+                                 {GenLabel(QStringLiteral("TPlanets"), c), qv("From"), qv("To")}, 9, Small, true);
+        const auto mahas = Tribhagi::Mahas(c);
+        for (int i = 0; i < 9; ++i) {
+            const TribhagiPeriod &m = mahas[static_cast<size_t>(i)].Period;
+            t.cell(i, 0)->setText(c.VimName(m.Position));
+            t.cell(i, 1)->setText(date(m.Start));
+            t.cell(i, 2)->setText(date(m.End));
+        }
+        break;
+    }
+    case TableKind::ShatTrimsha:
+    case TableKind::Yogini: {
+        const bool yogini = kind == TableKind::Yogini;
+        addLabel(QRect(x, y, kTableArea.width(), 24), qv(yogini ? "Yogini" : "ShatTrimsha"), SubHead, Qt::AlignCenter);
+        const auto yog = [&c](const char *key) { return c.GetHeadValue(1, QString::fromLatin1(key), QStringLiteral("YogText")).toString(); };
+        const YoginiRows rows = yogini ? Yogini::YoginiDasha(c) : Yogini::ShatTrimshaDasha(c);
+        const Table t = addTable(x, y + 28, {120, 110, 110}, 15, {yog("Dasha"), yog("Lord"), yog("Ends")}, static_cast<int>(rows.size()),
+                                 Small, true);
+        for (size_t i = 0; i < rows.size(); ++i) {
+            const int row = static_cast<int>(i);
+            t.cell(row, 0)->setText(c.GetHeadValue(1, rows[i].K, QStringLiteral("YogiCycleName")).toString());
+            t.cell(row, 1)->setText(c.GetHeadValue(1, rows[i].K, QStringLiteral("YogiCycleLordName")).toString());
+            t.cell(row, 2)->setText(date(rows[i].End));
+        }
+        break;
+    }
     case TableKind::PlanetTotal: {
         c.AshTable();
         addLabel(QRect(x, y, kTableArea.width(), 24), qv("PlanetTotal"), SubHead, Qt::AlignCenter);
@@ -246,7 +277,11 @@ void frmHoroReckoner::buildMenu()
         jaimini->addAction(QString::fromLatin1(caption), this, [this, place] { ShowChart(ChartKind::Jaimini, place); });
     }
     QMenu *dashas = m_popup->addMenu(QStringLiteral("Dashas"));
+    dashas->setObjectName(QStringLiteral("mnuPopupDashas"));
     dashas->addAction(QStringLiteral("Vimshottari Dasha"), this, [this] { ShowTable(TableKind::Vimshottari); });
+    dashas->addAction(QStringLiteral("Tribhagi Dasha"), this, [this] { ShowTable(TableKind::Tribhagi); });
+    dashas->addAction(QStringLiteral("Shat Trimsha Dasha"), this, [this] { ShowTable(TableKind::ShatTrimsha); });
+    dashas->addAction(QStringLiteral("Yogini Dasha"), this, [this] { ShowTable(TableKind::Yogini); });
     QMenu *ashtak = m_popup->addMenu(QStringLiteral("Ashtakvarga"));
     ashtak->addAction(QStringLiteral("Planet Total"), this, [this] { ShowTable(TableKind::PlanetTotal); });
     ashtak->addAction(QStringLiteral("Sign Total"), this, [this] { ShowTable(TableKind::SignTotal); });

@@ -19,7 +19,7 @@ public:
     // What the second chart shows.
     enum class ChartKind { Lagna, Chandra, BhavaChalit, Varga, Jaimini, KPLagna };
     // What the table beside the bars shows.
-    enum class TableKind { Panchang, Vimshottari, PlanetTotal, SignTotal };
+    enum class TableKind { Panchang, Vimshottari, Tribhagi, ShatTrimsha, Yogini, PlanetTotal, SignTotal };
 
     Kundali *Kun1 = nullptr;       // the birth chart, always
     Kundali *Kun2 = nullptr;       // the chart chosen from the menu
