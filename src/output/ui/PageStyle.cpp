@@ -15,14 +15,6 @@ void style(QLabel *l, const QFont &font, const QColor &colour)
     l->setPalette(p);
 }
 
-QFont pageFont(const Themes::PageFont &f, int size, int languageSize, bool bold)
-{
-    QFont font(f.Family);
-    font.setPointSize(Themes::ScaledSize(f, size, languageSize));
-    font.setBold(bold);
-    return font;
-}
-
 PageColors readPageColors()
 {
     const Themes::Scheme s = Themes::InForce();
@@ -50,6 +42,14 @@ PageFonts &cachedFonts()
 }
 } // namespace
 
+QFont RoleFont(const Themes::PageFont &f, int size, int languageSize, bool bold)
+{
+    QFont font(f.Family);
+    font.setPointSize(Themes::ScaledSize(f, size, languageSize));
+    font.setBold(bold);
+    return font;
+}
+
 const PageColors &PageColors::Current() { return cachedColors(); }
 
 void PageColors::Reload() { cachedColors() = readPageColors(); }
@@ -60,12 +60,12 @@ void PageFonts::Reload() { cachedFonts() = readPageFonts(); }
 
 QFont HeadFont(int size, bool bold)
 {
-    return pageFont(PageFonts::Current().Head, size, Session().Language.HeaderSize, bold);
+    return RoleFont(PageFonts::Current().Head, size, Session().Language.HeaderSize, bold);
 }
 
 QFont BodyFont(int size, bool bold)
 {
-    return pageFont(PageFonts::Current().Body, size, Session().Language.NormalSize, bold);
+    return RoleFont(PageFonts::Current().Body, size, Session().Language.NormalSize, bold);
 }
 
 void StyleHeading(QLabel *l)

@@ -31,6 +31,9 @@ struct PageFonts
     static void Reload();
 };
 
+// The font f gives a role whose size in the language is size, where languageSize is the language's
+// own size of f's group (HeaderSize or NormalSize).
+QFont RoleFont(const Themes::PageFont &f, int size, int languageSize, bool bold);
 // The heading font for a role whose size in the language is size (HeaderSize, SubHeadSize,
 // TextHeadSize), scaled as the theme's heading size is to the language's HeaderSize.
 QFont HeadFont(int size, bool bold);

@@ -48,18 +48,8 @@ protected:
         const Themes::Scheme s = m_form->scheme();
         const auto c = [&s](PageKey k) { return Kundali::ColorFromLong(s.page(k)); };
         const LanguageStyle &lang = Session().Language;
-        const auto head = [&](int size) {
-            QFont f(s.HeadFont.Family);
-            f.setPointSize(Themes::ScaledSize(s.HeadFont, size, lang.HeaderSize));
-            f.setBold(true);
-            return f;
-        };
-        const auto body = [&](int size, bool bold) {
-            QFont f(s.BodyFont.Family);
-            f.setPointSize(Themes::ScaledSize(s.BodyFont, size, lang.NormalSize));
-            f.setBold(bold);
-            return f;
-        };
+        const auto head = [&](int size) { return RoleFont(s.HeadFont, size, lang.HeaderSize, true); };
+        const auto body = [&](int size, bool bold) { return RoleFont(s.BodyFont, size, lang.NormalSize, bold); };
         QFont emblem(QStringLiteral("FreeSerif"));
         QPainter p(this);
         p.setRenderHint(QPainter::Antialiasing);
