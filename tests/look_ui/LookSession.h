@@ -2,8 +2,11 @@
 #pragma once
 // The Delhi session with a private copy of the records as the session's RecDB and a clean user
 // folder, for the tests of the chart editor and the page designer; and the helpers they share:
-// a colour dialog that answers by itself, a page drawn to a picture or a PDF sheet.
+// a colour dialog and a font dialog that answer by themselves, a page drawn to a picture or a PDF
+// sheet.
 #include "chartdraw/ui/LookControls.h"
+#include "output/ui/FontBox.h"
+#include "output/ui/frmColorEnv.h"
 #include "output/ui/PageCache.h"
 #include "output/ui/PageOutput.h"
 #include "output/ui/PageStyle.h"
@@ -13,15 +16,39 @@
 #include "sky/MessageSink.h"
 #include "sky/DataPaths.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QProcess>
 #include <QSqlDatabase>
 #include <QStandardPaths>
+#include <QTest>
 
 #include <deque>
 #include <memory>
+
+// Chooses a scheme in the designer's list with the arrow keys, as a user would.
+inline void choose(frmColorEnv &f, const QString &name)
+{
+    const int target = f.cmbTheme->findText(name);
+    ASSERT_GE(target, 0) << name.toStdString();
+    f.cmbTheme->setFocus();
+    for (int guard = 0; guard < 50 && f.cmbTheme->currentIndex() != target; ++guard)
+        QTest::keyClick(f.cmbTheme, f.cmbTheme->currentIndex() < target ? Qt::Key_Down : Qt::Key_Up);
+    ASSERT_EQ(f.cmbTheme->currentText(), name);
+}
+
+// Types a scheme's name into the designer's list.
+inline void typeName(frmColorEnv &f, const QString &name)
+{
+    QLineEdit *edit = f.cmbTheme->lineEdit();
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, name);
+}
 
 class LookSession : public DelhiSession
 {
@@ -43,12 +70,21 @@ protected:
             answers.pop_front();
             return c;
         });
+        FontBox::setPicker([this](const QFont &, QWidget *) -> std::optional<QFont> {
+            if (fontAnswers.empty())
+                return std::nullopt; // the dialog cancelled
+            const QFont f = fontAnswers.front();
+            fontAnswers.pop_front();
+            return f;
+        });
         setMessageSink(&sink);
         PageColors::Reload();
+        PageFonts::Reload();
     }
     void TearDown() override
     {
         ColorBox::setPicker({});
+        FontBox::setPicker({});
         setMessageSink(nullptr);
         Session().RecDB.close();
         Session().RecDB = QSqlDatabase();
@@ -56,6 +92,7 @@ protected:
         DelhiSession::TearDown();
         cleanUserFolder();
         PageColors::Reload();
+        PageFonts::Reload();
     }
     static void cleanUserFolder()
     {
@@ -102,6 +139,8 @@ protected:
     }
     // Answers of the colour dialog, one a click.
     std::deque<QColor> answers;
+    // Answers of the font dialog, one a click; none left cancels it.
+    std::deque<QFont> fontAnswers;
     // What the program told the user.
     QStringList messages;
     struct Collect : MessageSink

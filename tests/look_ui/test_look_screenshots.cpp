@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-// Renders the chart editor, the page designer with two schemes, and a page in each scheme to
-// PNG files when ORBANTA_SCREENSHOTS names a folder.
+// Renders the chart editor, the page designer with two schemes, a page in each scheme and a text
+// page in the serif one to PNG files when ORBANTA_SCREENSHOTS names a folder.
 #include "LookSession.h"
 
 #include "chartdraw/ui/frmKunEdit.h"
@@ -54,5 +54,9 @@ TEST_F(LookScreenshots, EditorDesignerAndPagesInTwoSchemes)
         }
         std::unique_ptr<TopicPage> page = loadPage("frmPage2");
         save(*page, "look-page-" + stem);
+        if (Themes::Stock(name).HeadFont.Family.contains("Serif")) {
+            std::unique_ptr<TopicPage> text = loadPage("frmForText");
+            save(*text, "look-text-page-" + stem);
+        }
     }
 }

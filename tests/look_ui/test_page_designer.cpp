@@ -18,25 +18,6 @@ using PageDesigner = LookSession;
 
 enum { HeadingCol = 6, TableBackCol = 9, TableHeadCol = 10 };
 
-// Chooses a scheme in the list with the arrow keys, as a user would.
-void choose(frmColorEnv &f, const QString &name)
-{
-    const int target = f.cmbTheme->findText(name);
-    ASSERT_GE(target, 0) << name.toStdString();
-    f.cmbTheme->setFocus();
-    for (int guard = 0; guard < 50 && f.cmbTheme->currentIndex() != target; ++guard)
-        QTest::keyClick(f.cmbTheme, f.cmbTheme->currentIndex() < target ? Qt::Key_Down : Qt::Key_Up);
-    ASSERT_EQ(f.cmbTheme->currentText(), name);
-}
-
-void typeName(frmColorEnv &f, const QString &name)
-{
-    QLineEdit *edit = f.cmbTheme->lineEdit();
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, name);
-}
 } // namespace
 
 TEST_F(PageDesigner, SchemeSavedAndReadBackChangesWhatThePagesPaint)

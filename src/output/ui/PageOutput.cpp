@@ -5,6 +5,7 @@
 #include "output/PrintTree.h"
 #include "output/ui/HtmlExport.h"
 #include "output/ui/PageParts.h"
+#include "output/ui/PageStyle.h"
 #include "output/ui/TextPage.h"
 #include "output/ui/TopicPage.h"
 #include "session/Session.h"
@@ -223,7 +224,9 @@ void RTFPrint::PrintTextHeader(QPainter &p)
     p.drawLine(QPointF(480 * kTwip, 1600 * kTwip), QPointF(5040 * kTwip, 1600 * kTwip));
     p.drawLine(QPointF(6360 * kTwip, 1600 * kTwip), QPointF(10920 * kTwip, 1600 * kTwip));
     p.setPen(Qt::black);
-    QFont name = Kundali::FontForDevice(QFont(QStringLiteral("Arial"), 11), p);
+    // The name and the page number in the body family of the theme.
+    const QString family = PageFonts::Current().Body.Family;
+    QFont name = Kundali::FontForDevice(QFont(family, 11), p);
     p.setFont(name);
     p.drawText(QPointF(480 * kTwip, 1280 * kTwip + QFontMetricsF(name, p.device()).ascent()), HeaderName(QStringLiteral(" and ")));
     p.setPen(QPen(Qt::black, 1));
@@ -231,7 +234,7 @@ void RTFPrint::PrintTextHeader(QPainter &p)
     QFont emblem = Kundali::FontForDevice(QFont(kEmblemFont, 36), p);
     p.setFont(emblem);
     p.drawText(QRectF((5708 - 607.5) * kTwip, (1488 - 607.5) * kTwip, 1215 * kTwip, 1215 * kTwip), Qt::AlignCenter, kEmblem);
-    QFont number = Kundali::FontForDevice(QFont(QStringLiteral("Arial"), 10, QFont::Bold), p);
+    QFont number = Kundali::FontForDevice(QFont(family, 10, QFont::Bold), p);
     p.setFont(number);
     p.drawText(QPointF(10500 * kTwip, 1280 * kTwip + QFontMetricsF(number, p.device()).ascent()), QString::number(Output().PageCounter));
     p.restore();
@@ -361,7 +364,8 @@ void clsPDFExporter::PageHeader()
     const double size = m_surface.FontSize();
     const bool bold = m_surface.FontBold();
     m_surface.setTextColor(Qt::black);
-    m_surface.setFontName(QStringLiteral("Arial"));
+    const QString family = PageFonts::Current().Body.Family;
+    m_surface.setFontName(family);
     m_surface.setFontSize(11);
     m_surface.setFontBold(false);
     m_surface.TextOut(HeaderName(QStringLiteral(" & ")), 480 * u, 1280 * u);
@@ -373,7 +377,7 @@ void clsPDFExporter::PageHeader()
     m_surface.setFontSize(36);
     const double w = m_surface.TextWidth(kEmblem);
     m_surface.TextOut(kEmblem, (5100 + 607.5) * u - w / 2, (950 + 607.5) * u - m_surface.LineHeight() / 2);
-    m_surface.setFontName(QStringLiteral("Arial"));
+    m_surface.setFontName(family);
     m_surface.setFontSize(10);
     m_surface.setFontBold(true);
     m_surface.TextOut(QString::number(Output().PageCounter), 10500 * u, 1280 * u);

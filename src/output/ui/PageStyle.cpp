@@ -3,24 +3,18 @@
 
 #include "chartdraw/ui/Kundali.h"
 #include "session/Session.h"
-#include "output/Themes.h"
 
 #include <QLabel>
 
 namespace {
-void style(QLabel *l, int size, bool bold, const QColor &colour)
+void style(QLabel *l, const QFont &font, const QColor &colour)
 {
-    QFont f(QString::fromLatin1(kPageFont));
-    f.setPointSize(size);
-    f.setBold(bold);
-    l->setFont(f);
+    l->setFont(font);
     QPalette p = l->palette();
     p.setColor(QPalette::WindowText, colour);
     l->setPalette(p);
 }
-} // namespace
 
-namespace {
 PageColors readPageColors()
 {
     const Themes::Scheme s = Themes::InForce();
@@ -34,33 +28,70 @@ PageColors &cachedColors()
     static PageColors colors = readPageColors();
     return colors;
 }
+
+PageFonts readPageFonts()
+{
+    const Themes::Scheme s = Themes::InForce();
+    return PageFonts{s.HeadFont, s.BodyFont};
+}
+
+PageFonts &cachedFonts()
+{
+    static PageFonts fonts = readPageFonts();
+    return fonts;
+}
 } // namespace
+
+QFont RoleFont(const Themes::PageFont &f, int size, int languageSize, bool bold)
+{
+    QFont font(f.Family);
+    font.setPointSize(Themes::ScaledSize(f, size, languageSize));
+    font.setBold(bold);
+    return font;
+}
 
 const PageColors &PageColors::Current() { return cachedColors(); }
 
 void PageColors::Reload() { cachedColors() = readPageColors(); }
 
+const PageFonts &PageFonts::Current() { return cachedFonts(); }
+
+void PageFonts::Reload() { cachedFonts() = readPageFonts(); }
+
+QFont HeadFont(int size, bool bold)
+{
+    return RoleFont(PageFonts::Current().Head, size, Session().Language.HeaderSize, bold);
+}
+
+QFont BodyFont(int size, bool bold)
+{
+    return RoleFont(PageFonts::Current().Body, size, Session().Language.NormalSize, bold);
+}
+
 void StyleHeading(QLabel *l)
 {
     const LanguageStyle &s = Session().Language;
-    style(l, s.HeaderSize, s.HeadBold, PageColors::Current().HeadingCol);
+    style(l, HeadFont(s.HeaderSize, s.HeadBold), PageColors::Current().HeadingCol);
 }
 
-void StyleBody(QLabel *l) { style(l, Session().Language.NormalSize, false, PageColors::Current().NormTextCol); }
+void StyleBody(QLabel *l) { style(l, BodyFont(Session().Language.NormalSize, false), PageColors::Current().NormTextCol); }
 
 void StyleSubHead(QLabel *l)
 {
     const LanguageStyle &s = Session().Language;
-    style(l, s.SubHeadSize, s.SubHeadBold, PageColors::Current().SubHeadCol);
+    style(l, HeadFont(s.SubHeadSize, s.SubHeadBold), PageColors::Current().SubHeadCol);
 }
 
-void StyleEnglish(QLabel *l) { style(l, Session().Language.EngSize, false, PageColors::Current().NormTextCol); }
+void StyleEnglish(QLabel *l) { style(l, BodyFont(Session().Language.EngSize, false), PageColors::Current().NormTextCol); }
 
-void StyleEnglishSmall(QLabel *l) { style(l, Session().Language.EngSize - 2, false, PageColors::Current().NormTextCol); }
+void StyleEnglishSmall(QLabel *l)
+{
+    style(l, BodyFont(Session().Language.EngSize - 2, false), PageColors::Current().NormTextCol);
+}
 
 void StyleChart(Kundali *k)
 {
-    QFont f(QString::fromLatin1(kPageFont));
+    QFont f(PageFonts::Current().Body.Family);
     f.setPointSize(Session().Language.KundliSize);
     k->setPlanetFont(f);
     QFont h = f;
@@ -68,6 +99,6 @@ void StyleChart(Kundali *k)
     k->setHouseFont(h);
 }
 
-void StyleSmall(QLabel *l) { style(l, Session().Language.SmallSize, false, PageColors::Current().NormTextCol); }
+void StyleSmall(QLabel *l) { style(l, BodyFont(Session().Language.SmallSize, false), PageColors::Current().NormTextCol); }
 
-void StyleSmallBold(QLabel *l) { style(l, Session().Language.SmallSize, true, PageColors::Current().SubHeadCol); }
+void StyleSmallBold(QLabel *l) { style(l, BodyFont(Session().Language.SmallSize, true), PageColors::Current().SubHeadCol); }

@@ -21,14 +21,12 @@ TextPage::TextPage(const QString &name, QWidget *parent) : TopicPage(name, paren
     rtfText->show();
 }
 
-void TextPage::append(const QString &text, int pointSize, bool bold, const QColor &colour)
+void TextPage::append(const QString &text, const QFont &font, const QColor &colour)
 {
     QTextCursor c(rtfText->document());
     c.movePosition(QTextCursor::End);
     QTextCharFormat f;
-    f.setFontFamilies({QString::fromLatin1(kPageFont)});
-    f.setFontPointSize(pointSize);
-    f.setFontWeight(bold ? QFont::Bold : QFont::Normal);
+    f.setFont(font);
     f.setForeground(colour);
     c.insertText(text, f);
 }
@@ -37,26 +35,25 @@ void TextPage::NewLines(int n)
 {
     const LanguageStyle &s = Session().Language;
     for (int i = 0; i < n; ++i)
-        append(QStringLiteral("\n"), s.TextSize, false, PageColors::Current().NormTextCol);
+        append(QStringLiteral("\n"), BodyFont(s.TextSize, false), PageColors::Current().NormTextCol);
 }
 
 void TextPage::Title(const QString &text)
 {
     const LanguageStyle &s = Session().Language;
     NewLines(1);
-    append(text, s.HeaderSize, s.HeadBold, PageColors::Current().HeadingCol);
+    append(text, HeadFont(s.HeaderSize, s.HeadBold), PageColors::Current().HeadingCol);
     NewLines(2);
 }
 
 void TextPage::PutHead(const QString &text)
 {
-    const LanguageStyle &s = Session().Language;
-    append(text, s.TextHeadSize, true, PageColors::Current().SubHeadCol);
+    append(text, HeadFont(Session().Language.TextHeadSize, true), PageColors::Current().SubHeadCol);
     NewLines(1);
 }
 
 void TextPage::PutText(const QString &text)
 {
-    append(text, Session().Language.TextSize, false, PageColors::Current().NormTextCol);
+    append(text, BodyFont(Session().Language.TextSize, false), PageColors::Current().NormTextCol);
     NewLines(2);
 }

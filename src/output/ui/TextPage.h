@@ -26,5 +26,5 @@ public:
     void NewLines(int n);
 
 private:
-    void append(const QString &text, int pointSize, bool bold, const QColor &colour);
+    void append(const QString &text, const QFont &font, const QColor &colour);
 };

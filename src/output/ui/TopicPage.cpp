@@ -39,6 +39,7 @@ TopicPage::TopicPage(const QString &name, QWidget *parent, bool framed) : QWidge
     setObjectName(name);
     setFixedSize(kWidth, kHeight);
     PageColors::Reload();
+    PageFonts::Reload();
     // A page is paper wherever it stands: its roles are not taken from the area that holds it.
     setBackgroundRole(QPalette::Window);
     setForegroundRole(QPalette::WindowText);

@@ -3,6 +3,7 @@
 
 #include "chartdraw/ui/Kundali.h"
 #include "chartdraw/ui/LookControls.h"
+#include "output/ui/FontBox.h"
 #include "output/ui/PageStyle.h"
 #include "session/Session.h"
 #include "sky/MessageSink.h"
@@ -29,8 +30,9 @@ constexpr std::array<const char *, Themes::kPageKeys> kPageCaptions{
 enum PageKey { TopLine, TopLogoBack, TopLogo, PerName, FrontLogo, FrontLogoBack, Heading, SubHead, NormText, TableBack,
                TableHead, CompanyName, CompanyAddress, CircleBorder, TableHeadText };
 
-// A small page in the colours of the boxes: the head with its emblem, a heading, a few lines of
-// text, a table and the foot, so that every page colour can be seen at work.
+// A small page in the colours and fonts of the boxes: the head with its emblem, a heading, a few
+// lines of text, a table and the foot, so that every page colour can be seen at work. Its sizes
+// are the page's made smaller, and follow the fonts' sizes as the page's do.
 class PagePreview : public QWidget
 {
 public:
@@ -45,40 +47,37 @@ protected:
     {
         const Themes::Scheme s = m_form->scheme();
         const auto c = [&s](PageKey k) { return Kundali::ColorFromLong(s.page(k)); };
+        const LanguageStyle &lang = Session().Language;
+        const auto head = [&](int size) { return RoleFont(s.HeadFont, size, lang.HeaderSize, true); };
+        const auto body = [&](int size, bool bold) { return RoleFont(s.BodyFont, size, lang.NormalSize, bold); };
+        QFont emblem(QStringLiteral("FreeSerif"));
         QPainter p(this);
         p.setRenderHint(QPainter::Antialiasing);
         p.fillRect(rect(), Qt::white);
         p.setPen(QColor(Qt::gray));
         p.drawRect(rect().adjusted(0, 0, -1, -1));
 
-        QFont f(QString::fromLatin1(kPageFont), 7);
         // Head: emblem in its circle, the person's name, the rule.
         p.setBrush(c(TopLogoBack));
         p.setPen(QPen(c(CircleBorder), 1.2));
         p.drawEllipse(QRectF(12, 10, 30, 30));
         p.setPen(c(TopLogo));
-        f.setPointSize(12);
-        p.setFont(f);
+        emblem.setPointSize(14);
+        p.setFont(emblem);
         p.drawText(QRectF(12, 10, 30, 30), Qt::AlignCenter, QStringLiteral("\u0950"));
-        f.setPointSize(8);
-        f.setBold(true);
-        p.setFont(f);
+        p.setFont(body(8, true));
         p.setPen(c(PerName));
         p.drawText(QRectF(50, 16, 190, 18), Qt::AlignRight | Qt::AlignVCenter, LookText("SampleName", "Asha Sharma"));
         p.setPen(QPen(c(TopLine), 1.5));
         p.drawLine(QPointF(10, 46), QPointF(240, 46));
 
-        f.setPointSize(11);
-        p.setFont(f);
+        p.setFont(head(11));
         p.setPen(c(Heading));
         p.drawText(QRectF(10, 52, 230, 22), Qt::AlignCenter, LookText("SampleHeading", "Lagna & Planet Positions"));
-        f.setPointSize(8);
-        p.setFont(f);
+        p.setFont(head(8));
         p.setPen(c(SubHead));
         p.drawText(QRectF(10, 78, 230, 16), Qt::AlignLeft, LookText("SampleSubHead", "Birth details"));
-        f.setBold(false);
-        f.setPointSize(7);
-        p.setFont(f);
+        p.setFont(body(7, false));
         p.setPen(c(NormText));
         p.drawText(QRectF(10, 96, 230, 40), Qt::AlignLeft | Qt::TextWordWrap,
                    LookText("SampleText", "Born on a Friday in the nakshatra Rohini, with Taurus rising."));
@@ -88,14 +87,12 @@ protected:
         p.fillRect(QRectF(x, y, w, row), c(TableHead));
         p.fillRect(QRectF(x, y + row, w, 2 * row), c(TableBack));
         p.setPen(c(TableHeadText));
-        f.setBold(true);
-        p.setFont(f);
+        p.setFont(body(7, true));
         const QStringList heads{LookText("SamplePlanetHead", "Planet"), LookText("SampleSignHead", "Sign"),
                                 LookText("SampleDegreeHead", "Degree")};
         for (int i = 0; i < 3; ++i)
             p.drawText(QRectF(x + i * w / 3, y, w / 3, row), Qt::AlignCenter, heads[i]);
-        f.setBold(false);
-        p.setFont(f);
+        p.setFont(body(7, false));
         p.setPen(c(NormText));
         const QStringList cells{QStringLiteral("Sun"), QStringLiteral("Leo"), QStringLiteral("29:07"),
                                 QStringLiteral("Moon"), QStringLiteral("Taurus"), QStringLiteral("12:44")};
@@ -112,17 +109,13 @@ protected:
         p.setPen(QPen(c(CircleBorder), 1.2));
         p.drawRect(QRectF(95, 216, 60, 60));
         p.setPen(c(FrontLogo));
-        f.setPointSize(20);
-        p.setFont(f);
+        emblem.setPointSize(24);
+        p.setFont(emblem);
         p.drawText(QRectF(95, 216, 60, 60), Qt::AlignCenter, QStringLiteral("\u0950"));
-        f.setPointSize(8);
-        f.setBold(true);
-        p.setFont(f);
+        p.setFont(body(8, true));
         p.setPen(c(CompanyName));
         p.drawText(QRectF(10, 290, 230, 16), Qt::AlignCenter, LookText("SampleCompany", "Your name"));
-        f.setBold(false);
-        f.setPointSize(7);
-        p.setFont(f);
+        p.setFont(body(7, false));
         p.setPen(c(CompanyAddress));
         p.drawText(QRectF(10, 306, 230, 16), Qt::AlignCenter, LookText("SampleAddress", "Your address"));
         p.setPen(QPen(c(TopLine), 1));
@@ -213,6 +206,20 @@ frmColorEnv::frmColorEnv(QWidget *parent) : QDialog(parent)
     auto *previewLayout = new QVBoxLayout(previewGroup);
     previewLayout->addWidget(pagePreview);
 
+    // The two page fonts.
+    auto *fontGroup = new QGroupBox(LookText("PageFonts", "Fonts"), this);
+    auto *fontForm = new QFormLayout(fontGroup);
+    cmdHeadFont = new FontBox(QStringLiteral("cmdHeadFont"), Session().Language.HeaderSize, fontGroup);
+    cmdBodyFont = new FontBox(QStringLiteral("cmdBodyFont"), Session().Language.NormalSize, fontGroup);
+    fontForm->addRow(LookText("HeadFont", "Headings"), cmdHeadFont);
+    fontForm->addRow(LookText("BodyFont", "Body text"), cmdBodyFont);
+    connect(cmdHeadFont, &FontBox::fontPicked, this, [this](const QFont &f) { fontPicked(cmdHeadFont, f, true); });
+    connect(cmdBodyFont, &FontBox::fontPicked, this, [this](const QFont &f) { fontPicked(cmdBodyFont, f, false); });
+    auto *rightColumn = new QVBoxLayout;
+    rightColumn->addWidget(previewGroup);
+    rightColumn->addWidget(fontGroup);
+    rightColumn->addStretch();
+
     cmdSaveAyanKundStyle = new QPushButton(LookText("Save", "&Save"), this);
     cmdSaveAyanKundStyle->setObjectName(QStringLiteral("cmdSaveAyanKundStyle"));
     cmdCancel = new QPushButton(LookText("Cancel", "&Cancel"), this);
@@ -223,7 +230,7 @@ frmColorEnv::frmColorEnv(QWidget *parent) : QDialog(parent)
     leftColumn->addWidget(chartGroup);
     auto *middle = new QHBoxLayout;
     middle->addLayout(leftColumn);
-    middle->addWidget(previewGroup, 0, Qt::AlignTop);
+    middle->addLayout(rightColumn);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(cmdSaveAyanKundStyle);
@@ -282,6 +289,8 @@ Themes::Scheme frmColorEnv::scheme() const
     s.setChart(ChartLook::BorderWidth, txtBorderWidth->value());
     for (int k = ChartLook::BackColor; k < ChartLook::kKeyCount; ++k)
         s.setChart(static_cast<ChartLook::Key>(k), chartBox(static_cast<ChartLook::Key>(k))->value());
+    s.HeadFont = cmdHeadFont->pageFont();
+    s.BodyFont = cmdBodyFont->pageFont();
     return s;
 }
 
@@ -296,6 +305,9 @@ void frmColorEnv::showScheme(const Themes::Scheme &scheme)
         txtLineWidth->setValue(static_cast<int>(scheme.chart(ChartLook::LineWidth)));
         txtBorderWidth->setValue(static_cast<int>(scheme.chart(ChartLook::BorderWidth)));
     }
+    cmdHeadFont->setPageFont(scheme.HeadFont);
+    cmdBodyFont->setPageFont(scheme.BodyFont);
+    bodyFontChanged();
     chartChanged();
     pagePreview->update();
 }
@@ -309,6 +321,28 @@ void frmColorEnv::chartChanged()
     kunDemo->setNumberColor(picNumberColor->colour());
     kunDemo->setLineWidth(txtLineWidth->value());
     kunDemo->setBorderWidth(txtBorderWidth->value());
+}
+
+void frmColorEnv::fontPicked(FontBox *box, const QFont &chosen, bool heading)
+{
+    const Themes::PageFont f = box->fromDialog(chosen);
+    if (const QString error = Themes::FontError(f, heading); !error.isEmpty()) {
+        tell(error);
+        return;
+    }
+    box->setPageFont(f);
+    bodyFontChanged();
+    pagePreview->update();
+}
+
+void frmColorEnv::bodyFontChanged()
+{
+    // The sample chart writes in the body family, as the pages' charts do, at its own sizes.
+    QFont planet = kunDemo->PlanetFont(), house = kunDemo->HouseFont();
+    planet.setFamily(cmdBodyFont->pageFont().Family);
+    house.setFamily(cmdBodyFont->pageFont().Family);
+    kunDemo->setPlanetFont(planet);
+    kunDemo->setHouseFont(house);
 }
 
 void frmColorEnv::cmbTheme_Click(const QString &name)
@@ -349,5 +383,6 @@ void frmColorEnv::cmdSaveAyanKundStyle_Click()
     const QString name = cmbTheme->findText(cmbTheme->currentText(), Qt::MatchFixedString) >= 0 ? cmbTheme->currentText() : QString();
     Themes::Apply(scheme(), name);
     PageColors::Reload();
+    PageFonts::Reload();
     accept();
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
-// The page designer: the colours of every page and chart, tried on a sample page and a sample
-// chart, and named colour schemes kept in the records. Save makes the colours the look of the
-// pages loaded from then on.
+// The page designer: the colours of every page and chart and the fonts of the pages, tried on a
+// sample page and a sample chart, and named schemes kept in the records. Save makes them the look
+// of the pages loaded from then on.
 
 #include "output/Themes.h"
 
@@ -11,6 +11,8 @@
 #include <array>
 
 class ColorBox;
+class FontBox;
+class QFont;
 class Kundali;
 class QComboBox;
 class QPushButton;
@@ -33,6 +35,8 @@ public:
     std::array<ColorBox *, Themes::kPageKeys> picPage{};
     ColorBox *picBackColor, *picLineColor, *picBorderColor, *picTxtColor, *picNumberColor;
     WidthSpin *txtLineWidth, *txtBorderWidth;
+    // The heading font and the body font.
+    FontBox *cmdHeadFont, *cmdBodyFont;
     Kundali *kunDemo;
     QWidget *pagePreview;
 
@@ -44,5 +48,8 @@ private:
     void cmdDelTheme_Click();
     void cmdSaveAyanKundStyle_Click();
     void chartChanged();
+    // A font chosen in the dialog for box: shown when a scheme may hold it, else the user is told why not.
+    void fontPicked(FontBox *box, const QFont &chosen, bool heading);
+    void bodyFontChanged();
     ColorBox *chartBox(ChartLook::Key k) const;
 };

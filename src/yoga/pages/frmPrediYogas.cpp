@@ -26,9 +26,7 @@ void frmPrediYogas::PutYogaHead(const QString &nameKey)
     QTextCursor cur(rtfText->document());
     cur.movePosition(QTextCursor::End);
     QTextCharFormat f;
-    f.setFontFamilies({QString::fromLatin1(kPageFont)});
-    f.setFontPointSize(Session().Language.TextHeadSize);
-    f.setFontWeight(QFont::Bold);
+    f.setFont(HeadFont(Session().Language.TextHeadSize, true));
     f.setForeground(PageColors::Current().SubHeadCol);
     cur.insertText(chart().GetHeadValue(7, nameKey).toString(), f);
 }
