@@ -26,12 +26,6 @@ namespace {
 class JaiminiPages : public DelhiSession
 {
 protected:
-    template <typename Page> std::unique_ptr<Page> load()
-    {
-        auto page = std::make_unique<Page>();
-        page->Load();
-        return page;
-    }
     static void expectAllWordsFound(const QWidget &page)
     {
         for (const QLabel *l : page.findChildren<QLabel *>())
@@ -103,19 +97,9 @@ TEST_F(JaiminiPages, TheSphutaPageShowsSphutasKarakasAndAspects)
 
 TEST_F(JaiminiPages, ThePrintWalkWritesTheThreePages)
 {
-    const QString file = dir.filePath("jaimini.PDF");
-    clsPDFExporter pdf;
-    pdf.filename = file;
-    ASSERT_TRUE(pdf.StartExport());
-    Output().PageCounter = 1;
-    PageCache pages;
-    PageOutput out(nullptr, nullptr, &pdf);
-    const QList<PrintStep> steps =
-        SelectedSteps(1, false, {QStringLiteral("JMLAGNA"), QStringLiteral("JMKUNDLIS"), QStringLiteral("JMSPHUTAS")});
-    ASSERT_EQ(steps.size(), 3);
-    EXPECT_EQ(WalkSteps(steps, pages, out), 3);
-    ASSERT_TRUE(pdf.FinishFile());
-    const QString text = pdfText(file);
+    const PdfWalk walk = walkToPdf("jaimini.PDF", {"JMLAGNA", "JMKUNDLIS", "JMSPHUTAS"});
+    ASSERT_EQ(walk.drawn, 3);
+    const QString text = pdfText(walk.file);
     if (text.isEmpty())
         GTEST_SKIP() << "pdftotext is not installed";
     EXPECT_FALSE(text.contains(QStringLiteral("Item Not Found")));

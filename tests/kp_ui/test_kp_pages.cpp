@@ -31,12 +31,6 @@ namespace {
 class KPPages : public DelhiSession
 {
 protected:
-    template <typename Page> std::unique_ptr<Page> load()
-    {
-        auto page = std::make_unique<Page>();
-        page->Load();
-        return page;
-    }
     // The words a chart shows in the cell of sign s, in any style.
     static QString inSign(Kundali *k, int s) { return k->HouseText(k->model().cellOfSign(s) + 1); }
 };
@@ -102,18 +96,11 @@ TEST_F(KPPages, TheFourKeysExportToPdfInTheirOrder)
 {
     RecordingSink sink;
     const ScopedMessageSink scoped(&sink);
-    const QString file = dir.filePath("kp.pdf");
-    clsPDFExporter pdf;
-    pdf.filename = file;
-    ASSERT_TRUE(pdf.StartExport());
-    Output().PageCounter = 1;
-    PageCache pages;
-    PageOutput out(nullptr, nullptr, &pdf);
-    EXPECT_EQ(WalkSteps(SelectedSteps(1, false, {"KPLONG", "KPSIGN1", "KPSIGN2", "KPKUN"}), pages, out), 4);
-    EXPECT_EQ(pdf.surface().PageCount(), 4);
-    ASSERT_TRUE(pdf.FinishFile());
+    const PdfWalk walk = walkToPdf("kp.pdf", {"KPLONG", "KPSIGN1", "KPSIGN2", "KPKUN"});
+    EXPECT_EQ(walk.drawn, 4);
+    EXPECT_EQ(walk.sheets, 4);
     EXPECT_EQ(sink.reports, QStringList()) << "every key the pages read is in the English database";
-    const QString text = pdfText(file);
+    const QString text = pdfText(walk.file);
     if (text.isEmpty())
         GTEST_SKIP() << "pdftotext is not installed";
     EXPECT_FALSE(text.contains("Item Not Found"));

@@ -31,12 +31,6 @@ protected:
         c().FillVargas();
         c().CalcPanchang();
     }
-    template <typename Page> std::unique_ptr<Page> open()
-    {
-        auto page = std::make_unique<Page>();
-        page->Load();
-        return page;
-    }
     QString word(const char *category, const QVariant &head) { return c().GetHeadValue(1, head, category).toString(); }
 };
 
@@ -46,7 +40,7 @@ TEST_F(RelationPages, MaitriGridsShowTheTablesWordsWithNothingOnTheDiagonal)
 {
     RecordingSink sink;
     const ScopedMessageSink scoped(&sink);
-    const auto page = open<frmMaitri>();
+    const auto page = load<frmMaitri>();
     const Maitri m(c());
     EXPECT_EQ(page->lblTitle->text(), "Planet Maitri Chakra");
     for (int a = 1; a <= 9; ++a)
@@ -71,7 +65,7 @@ TEST_F(RelationPages, KarakaListsMarkTiesAndTheStatesComeFromTheirFamilies)
 {
     // Degrees: Sun 12, Mercury 17, Venus 20, Mars 10, Jupiter 10, Saturn 6, Moon 15, Rahu 30 - 15.
     place({{0, 95}, {1, 12}, {2, 167}, {3, 200}, {4, 100}, {5, 250}, {6, 306}, {7, 45}, {8, 75}, {9, 255}});
-    const auto page = open<frmKaraka>();
+    const auto page = load<frmKaraka>();
     EXPECT_EQ(page->lblTitle->text(), "Planetary Avasthas");
     const QStringList ashta{page->karaka(frmKaraka::Ashta, 0), page->karaka(frmKaraka::Ashta, 1), page->karaka(frmKaraka::Ashta, 2),
                             page->karaka(frmKaraka::Ashta, 3), page->karaka(frmKaraka::Ashta, 4), page->karaka(frmKaraka::Ashta, 5),
@@ -97,7 +91,7 @@ TEST_F(RelationPages, KarakaListsMarkTiesAndTheStatesComeFromTheirFamilies)
 
 TEST_F(RelationPages, SudarshanChakraIsAChartTheWalkersDraw)
 {
-    const auto page = open<frmSudarshan>();
+    const auto page = load<frmSudarshan>();
     ASSERT_NE(page->chkSudarshan, nullptr);
     EXPECT_EQ(page->lblTitle->text(), "Sudarshan Chakra");
     // The walkers of paper and PDF draw every chart they find; the chakra is one.
@@ -110,18 +104,9 @@ TEST_F(RelationPages, SudarshanChakraIsAChartTheWalkersDraw)
 
 TEST_F(RelationPages, ThePagesGoToPdfInTheWalkWithoutAMissingWord)
 {
-    const QString file = dir.filePath("relations.PDF");
-    clsPDFExporter pdf;
-    pdf.filename = file;
-    ASSERT_TRUE(pdf.StartExport());
-    Output().PageCounter = 1;
-    PageCache pages;
-    PageOutput out(nullptr, nullptr, &pdf);
-    const QList<PrintStep> steps = SelectedSteps(1, false, {"Bhav", "Maitri", "Sudarshan", "Karakas"});
-    ASSERT_EQ(steps.size(), 4);
-    EXPECT_EQ(WalkSteps(steps, pages, out), 4);
-    ASSERT_TRUE(pdf.FinishFile());
-    const QString text = pdfText(file);
+    const PdfWalk walk = walkToPdf("relations.PDF", {"Bhav", "Maitri", "Sudarshan", "Karakas"});
+    ASSERT_EQ(walk.drawn, 4);
+    const QString text = pdfText(walk.file);
     if (text.isEmpty())
         GTEST_SKIP() << "pdftotext is not installed";
     EXPECT_FALSE(text.contains("Item Not Found"));
@@ -153,14 +138,7 @@ TEST_F(RelationPages, Screenshots)
     const QString tool = QStandardPaths::findExecutable("pdftoppm");
     if (tool.isEmpty())
         return;
-    const QString file = dir.filePath("sudarshan.PDF");
-    clsPDFExporter pdf;
-    pdf.filename = file;
-    ASSERT_TRUE(pdf.StartExport());
-    Output().PageCounter = 1;
-    PageCache pages;
-    PageOutput output(nullptr, nullptr, &pdf);
-    WalkSteps(SelectedSteps(1, false, {"Sudarshan"}), pages, output);
-    ASSERT_TRUE(pdf.FinishFile());
-    QProcess::execute(tool, {"-r", "70", "-png", "-f", "1", "-l", "1", "-singlefile", file, out + "/pdf-sudarshan"});
+    const PdfWalk walk = walkToPdf("sudarshan.PDF", {"Sudarshan"});
+    ASSERT_EQ(walk.drawn, 1);
+    QProcess::execute(tool, {"-r", "70", "-png", "-f", "1", "-l", "1", "-singlefile", walk.file, out + "/pdf-sudarshan"});
 }

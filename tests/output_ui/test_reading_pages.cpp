@@ -29,14 +29,6 @@ class ReadingPages : public DelhiSession
 protected:
     ReadingPages() : DelhiSession(2) {}
     const clsPlanets &chart() const { return *Session().CurPlanets; }
-    static void shoot(QWidget &page, const QString &name)
-    {
-        const QString out = qEnvironmentVariable("ORBANTA_SCREENSHOTS");
-        if (out.isEmpty())
-            return;
-        QDir().mkpath(out);
-        page.grab().save(out + QLatin1Char('/') + name);
-    }
 };
 
 } // namespace

@@ -34,14 +34,6 @@ protected:
         const qsizetype at = all.indexOf(first);
         return at < 0 ? QStringList() : all.mid(at + 1, count);
     }
-    static void shoot(QWidget &page, const QString &name)
-    {
-        const QString out = qEnvironmentVariable("ORBANTA_SCREENSHOTS");
-        if (out.isEmpty())
-            return;
-        QDir().mkpath(out);
-        page.grab().save(out + QLatin1Char('/') + name);
-    }
     // Casts the session's chart again for another place and moment.
     void recast(int day, int month, int year, int hour, int latDeg, const char *gmt)
     {
