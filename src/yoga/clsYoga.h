@@ -209,10 +209,13 @@ public:
     bool JaiminiRY14() const;
     bool JaiminiRY15() const;
     bool JaiminiRY16() const;
+    bool JaiminiRY17() const;
     bool JaiminiRY18() const;
     bool JaiminiArishta1() const;
+    bool JaiminiArishta2() const;
     bool JaiminiArishta3() const;
     bool JaiminiArishta4() const;
+    bool JaiminiAscetic() const;
     // The catalogue: vehicles, wealth, loss of wealth and riches.
     bool Vahana1() const;
     bool Vahana2() const;
@@ -314,6 +317,7 @@ public:
     bool Dhanahani13() const;
     bool Dhanahani14() const;
     bool Dhanahani15() const;
+    bool Dhanahani16() const;
     bool Dhanahani17() const;
     bool Dhanahani18() const;
     bool Dhanahani19() const;
@@ -324,6 +328,7 @@ public:
     bool Dhanahani35() const;
     bool Dhanahani36() const;
     bool Dhanahani24() const;
+    bool Dhanahani25() const;
     bool Dhanahani26() const;
     bool Dhanahani27() const;
     bool Dhanahani28() const;
@@ -409,6 +414,8 @@ public:
     bool SubhaGola() const;
     bool ParaChatussagar() const;
     bool VanchanaChoraBheeti1() const;
+    bool VanchanaChoraBheeti2() const;
+    bool VanchanaChoraBheeti3() const;
     bool MokshaPrapti() const;
     bool Vishnu() const;
     bool Brahm() const;
@@ -430,6 +437,7 @@ public:
     bool Sumukh1() const;
     bool Sumukh2() const;
     bool Durmukha1() const;
+    bool Durmukha2() const;
     bool BhojanaSukhya() const;
     bool Vagmi1() const;
     bool Vagmi2() const;
@@ -549,5 +557,7 @@ private:
     bool beneficLinked(int p) const;
     // The 2nd lord's navamsha lord in the 6th, 8th or 12th with no other planet there.
     bool secondNavLordAlone() const;
+    // A malefic stands in the n-th sign from sign.
+    bool maleficFrom(int sign, int n) const;
     YogaChart y;
 };

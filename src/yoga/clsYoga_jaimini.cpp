@@ -4,6 +4,7 @@
 #include "yoga/clsYoga.h"
 
 #include "sky/Functions.h"
+#include "jaimini/clsJaimini.h"
 #include "sky/clsPlanets.h"
 
 using P = YogaChart::Planet;
@@ -100,4 +101,34 @@ bool clsYoga::JaiminiArishta3() const
     const clsPlanets &c = y.chart();
     const int a = c.CountPlanetInSign(y.H(2)), b = c.CountPlanetInSign(y.H(9));
     return a != 0 && b != 0 && !anyIn({P::Ra, P::Ke}, {2, 9}) && a == b;
+}
+
+// ---- the rules that read the Aroodha and Upapada lagnas (the popular padas) ----
+
+bool clsYoga::maleficFrom(int sign, int n) const
+{
+    const int target = Norm12(sign + n - 1);
+    for (int p : {P::Su, P::Ma, P::Sa, P::Ra, P::Ke})
+        if (y.S(p) == target)
+            return true;
+    return false;
+}
+
+// The written terms up to the malefic in the Aroodha's 3rd; what runs on after it is left out.
+bool clsYoga::JaiminiRY17() const
+{
+    const int ak = y.S(y.chart().AtmaKaraka());
+    return !maleficFrom(ak, 3) && maleficFrom(clsJaimini(y.chart()).ArudhaLagna(1), 3);
+}
+
+bool clsYoga::JaiminiArishta2() const
+{
+    const int al = clsJaimini(y.chart()).ArudhaLagna(1);
+    return maleficFrom(al, 2) && maleficFrom(al, 8);
+}
+
+bool clsYoga::JaiminiAscetic() const
+{
+    return maleficFrom(clsJaimini(y.chart()).UpaPadaLagna(1), 2) && withAny(P::Mo, {P::Ju, P::Me, P::Ve}) &&
+           anyIn({P::Ju, P::Me, P::Ve}, {7});
 }

@@ -458,3 +458,30 @@ bool clsYoga::Trikalagnana() const
            (withAny(P::Ju, {P::Mo, P::Me, P::Ve}) || sees(P::Ju, P::Mo) || sees(P::Ju, P::Me) || sees(P::Ju, P::Ve)) &&
            CheckMriduAmsha(P::Ju);
 }
+
+// ---- the rules that read Gulika ----
+
+bool clsYoga::Durmukha2() const
+{
+    const int l2 = y.L(2), n = navSign(l2);
+    return (l2 == P::Ma || l2 == P::Sa || l2 == P::Su) &&
+           (y.chart().GulikaSign() == y.S(l2) || n == navSign(P::Su) || n == navSign(P::Ma) || n == navSign(P::Sa));
+}
+
+bool clsYoga::VanchanaChoraBheeti2() const
+{
+    const int g = y.chart().GulikaSign();
+    return !VanchanaChoraBheeti1() && withAny(P::As, {P::Su, P::Ma, P::Sa, P::Ra, P::Ke}) &&
+           (g == y.Lg() || g == y.H(5) || g == y.H(9));
+}
+
+bool clsYoga::VanchanaChoraBheeti3() const
+{
+    const int g = y.chart().GulikaSign();
+    if (VanchanaChoraBheeti1() || VanchanaChoraBheeti2() || !withAny(P::As, {P::Su, P::Ma, P::Sa, P::Ra, P::Ke}))
+        return false;
+    for (int h : {1, 4, 7, 10, 5, 9})
+        if (g == y.S(y.L(h)))
+            return true;
+    return false;
+}

@@ -540,3 +540,14 @@ bool clsYoga::Sampat10() const
     const int l2 = y.L(2);
     return gopuram(l2) == 4 && gopuram(navLord(l2)) == 5;
 }
+
+// ---- the losses that read Gulika ----
+
+bool clsYoga::Dhanahani16() const { return y.S(y.L(12)) == y.chart().GulikaSign() || y.with(y.L(12), y.L(6)); }
+
+bool clsYoga::Dhanahani25() const
+{
+    const int g = y.chart().GulikaSign();
+    return kendra(P::Mo) && kendra(P::Ju) && kendra(P::Sa) && (g == y.H(5) || g == y.H(8) || g == y.H(12)) &&
+           y.in(P::Ma, {5, 8, 12});
+}

@@ -3,6 +3,8 @@
 // chart with one placement moved, where it fails; rules that can't hold as written fail on a
 // chart that meets every term the others can. A placement reads "Ju5" (Jupiter in the middle of
 // Leo) or "Mo4:1" (the Moon 1 degree into Cancer); "As" is the Lagna.
+#include "jaimini/clsJaimini.h"
+#include "sky/Functions.h"
 #include "sky/clsPlanets.h"
 #include "support/TestSupport.h"
 #include "yoga/clsYoga.h"
@@ -453,12 +455,16 @@ protected:
         }
     }
     // The rule on a fresh chart of the placements (a chart keeps the signs it has read).
-    bool holds(const char *rule)
+    void copyTo(clsPlanets &fresh) const
     {
-        clsPlanets fresh;
         for (int n = 0; n <= 25; ++n)
             fresh.setPlanetLongi(n, chart.PlanetLongi(n));
         fresh.FillVargas();
+    }
+    bool holds(const char *rule)
+    {
+        clsPlanets fresh;
+        copyTo(fresh);
         for (const clsYoga::CatalogueRule &r : clsYoga::Catalogue())
             if (QLatin1String(r.name) == QLatin1String(rule))
                 return (clsYoga(fresh).*r.rule)();
@@ -490,7 +496,10 @@ TEST_F(Catalogue, EveryRuleOfTheListHasItsCase)
         bool found = false;
         for (const Case &c : kCases)
             found = found || QLatin1String(c.rule) == QLatin1String(r.name);
-        // The rules of the scan have their own tests.
+        // The rules that read Gulika or a pada, and the rules of the scan, have their own tests.
+        for (const char *own : {"Dhanahani16", "Dhanahani25", "Durmukha2", "VanchanaChoraBheeti2", "VanchanaChoraBheeti3",
+                                "JaiminiRY17", "JaiminiArishta2", "JaiminiAscetic"})
+            found = found || QLatin1String(own) == QLatin1String(r.name);
         for (const clsYoga::ListedRule &l : clsYoga::kList)
             found = found || (r.rule == l.rule);
         if (!found)
@@ -511,4 +520,129 @@ TEST_F(Catalogue, TheHoldingNamesFollowTheClassOrder)
     EXPECT_TRUE(names.contains("Vahana15"));
     EXPECT_LT(names.indexOf("Mahendra2"), names.indexOf("Vahana15"));
     EXPECT_LT(names.indexOf("VideshYatra1"), names.indexOf("Mahendra2"));
+}
+
+// The rules that read Gulika or a pada: the placements are made around where the chart puts them.
+// Gulika's sign comes from the birth moment and place alone, whatever the planets.
+TEST_F(Catalogue, TheGulikaRulesFollowGulikasSign)
+{
+    clsPlanets probe;
+    copyTo(probe);
+    const int g = probe.GulikaSign();
+    ASSERT_GE(g, 1);
+    const auto at = [](int sign) { return QStringLiteral("%1").arg(Norm12(sign)); };
+
+    // The 12th lord (Jupiter, for Aries rising) in Gulika's sign, then out of it and away from
+    // the 6th lord.
+    place("As1 Me3 Ju" + at(g));
+    EXPECT_TRUE(holds("Dhanahani16"));
+    place("Ju" + at(Norm12(g + 1) == 3 ? g + 2 : g + 1));
+    EXPECT_FALSE(holds("Dhanahani16"));
+
+    // Gulika in the 5th; the Moon, Jupiter and Saturn rising, Mars in the 8th, then the 9th.
+    const int as = Norm12(g - 4);
+    place("As" + at(as) + " Mo" + at(as) + " Ju" + at(as) + " Sa" + at(as) + " Ma" + at(as + 7));
+    EXPECT_TRUE(holds("Dhanahani25"));
+    place("Ma" + at(as + 8));
+    EXPECT_FALSE(holds("Dhanahani25"));
+}
+
+TEST_F(Catalogue, TheThiefRulesFollowGulikasSign)
+{
+    clsPlanets probe;
+    copyTo(probe);
+    const int g = probe.GulikaSign();
+    ASSERT_GE(g, 1);
+    const auto at = [](int sign) { return QStringLiteral("%1").arg(Norm12(sign)); };
+    // Of the trine of Gulika's sign, the one a benefic rules rises; Saturn rises with it, the
+    // Lagna lord stands alone in the 3rd, and the other malefics keep to the 6th.
+    int as = 0;
+    for (int k : {0, 4, 8}) {
+        const int l = YogaChart::lord(Norm12(g - k));
+        if (l == YogaChart::Ju || l == YogaChart::Ve || l == YogaChart::Me || l == YogaChart::Mo) {
+            as = Norm12(g - k);
+            break;
+        }
+    }
+    ASSERT_NE(as, 0);
+    const QString rest = " Su" + at(as + 5) + " Ma" + at(as + 5) + " Ra" + at(as + 5) + " Ke" + at(as + 11);
+    const char *names[] = {"", "Su", "Me", "Ve", "Ma", "Ju", "Sa", "Mo", "Ra", "Ke"};
+    const QString l1 = QString::fromLatin1(names[YogaChart::lord(as)]);
+    place("As" + at(as) + " Sa" + at(as) + rest + " " + l1 + at(as + 2));
+    EXPECT_TRUE(holds("VanchanaChoraBheeti2"));
+    EXPECT_FALSE(holds("VanchanaChoraBheeti1"));
+    EXPECT_FALSE(holds("VanchanaChoraBheeti3"));
+    // A malefic joining the Lagna lord makes it the first rule instead.
+    place("Su" + at(as + 2));
+    EXPECT_TRUE(holds("VanchanaChoraBheeti1"));
+    EXPECT_FALSE(holds("VanchanaChoraBheeti2"));
+
+    // Gulika outside the Lagna's trine, in the sign where the benefic Lagna lord stands alone.
+    int other = 0;
+    for (int d : {1, 2, 3, 6, 7, 9, 10}) {
+        const int l = YogaChart::lord(Norm12(g - d));
+        if (l == YogaChart::Ju || l == YogaChart::Ve || l == YogaChart::Me || l == YogaChart::Mo) {
+            other = Norm12(g - d);
+            break;
+        }
+    }
+    ASSERT_NE(other, 0);
+    const QString lord = QString::fromLatin1(names[YogaChart::lord(other)]);
+    const QString away = " Su" + at(other + 5) + " Ma" + at(other + 5) + " Ra" + at(other + 5) + " Ke" + at(other + 11);
+    place("As" + at(other) + " Sa" + at(other) + away + " " + lord + at(g));
+    EXPECT_TRUE(holds("VanchanaChoraBheeti3"));
+    EXPECT_FALSE(holds("VanchanaChoraBheeti2"));
+    place(lord + at(g + 1 == other + 5 ? g + 2 : g + 1));
+    EXPECT_FALSE(holds("VanchanaChoraBheeti3"));
+}
+
+TEST_F(Catalogue, ThePadaRulesFollowTheAroodhaAndUpapada)
+{
+    const auto at = [](int sign) { return QStringLiteral("%1").arg(Norm12(sign)); };
+    // Taurus rising, Venus in the 4th: the Aroodha lies where the chart's padas put it; Saturn
+    // 2nd from it and the Sun 8th, Mars, Rahu and Ketu kept out of both.
+    place("As2 Ve5");
+    clsPlanets probe;
+    copyTo(probe);
+    const int al = clsJaimini(probe).ArudhaLagna(1);
+    ASSERT_GE(al, 1);
+    place("Sa" + at(al + 1) + " Su" + at(al + 7) + " Ma" + at(al + 3) + " Ra" + at(al + 4) + " Ke" + at(al + 10));
+    EXPECT_TRUE(holds("JaiminiArishta2"));
+    place("Su" + at(al + 3));
+    EXPECT_FALSE(holds("JaiminiArishta2"));
+
+    // A malefic in the Aroodha's 3rd and none in the 3rd from the Atma Karaka, Jupiter at 29
+    // degrees 5th from the Aroodha (its 3rd, the Aroodha's 7th, stays empty).
+    place("Ju" + at(al + 5) + ":29 Sa" + at(al + 2) + " Su" + at(al + 3));
+    clsPlanets k;
+    copyTo(k);
+    ASSERT_EQ(k.AtmaKaraka(), YogaChart::Ju);
+    EXPECT_TRUE(holds("JaiminiRY17"));
+    place("Sa" + at(al + 1));
+    EXPECT_FALSE(holds("JaiminiRY17"));
+
+    // The Upapada: the 12th lord (Mars, for Taurus rising) fixes it; Saturn 2nd from it, the Moon
+    // with Venus in the 7th.
+    place("As2 Ma1 Ve8 Mo8");
+    clsPlanets u;
+    copyTo(u);
+    const int ul = clsJaimini(u).UpaPadaLagna(1);
+    ASSERT_GE(ul, 1);
+    place("Sa" + at(ul + 1));
+    EXPECT_TRUE(holds("JaiminiAscetic"));
+    place("Mo10");
+    EXPECT_FALSE(holds("JaiminiAscetic"));
+}
+
+TEST_F(Catalogue, DurmukhaTwoHoldsForEveryHardSecondLord)
+{
+    // The navamsha terms include the 2nd lord's own, so a Sun, Mars or Saturn ruling the 2nd is enough.
+    for (int as : {4, 12, 7, 9, 10}) {
+        place(QStringLiteral("As%1").arg(as));
+        EXPECT_TRUE(holds("Durmukha2")) << as;
+    }
+    for (int as : {1, 2, 3, 5, 6, 8, 11}) {
+        place(QStringLiteral("As%1").arg(as));
+        EXPECT_FALSE(holds("Durmukha2")) << as;
+    }
 }
