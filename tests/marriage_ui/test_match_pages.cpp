@@ -12,6 +12,7 @@
 #include "output/ui/TextPage.h"
 #include "output/ui/frmPrint.h"
 #include "session_ui/SessionWindow.h"
+#include "support/PdfText.h"
 #include "sky/Functions.h"
 #include "support/RecordingSink.h"
 
@@ -54,16 +55,7 @@ protected:
         typeBirth(screen->gal, "Bela", "02021987", "1800", "01305", "08017");
         click(screen->cmdGenerate);
     }
-    static QString pdfText(const QString &file)
-    {
-        const QString tool = QStandardPaths::findExecutable("pdftotext");
-        if (tool.isEmpty())
-            return {};
-        QProcess p;
-        p.start(tool, {"-layout", file, "-"});
-        p.waitForFinished();
-        return QString::fromUtf8(p.readAllStandardOutput());
-    }
+    static QString pdfText(const QString &file) { return PdfText(file); }
     RecordingSink sink;
     ScopedMessageSink scoped{&sink};
 };

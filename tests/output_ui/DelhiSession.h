@@ -7,6 +7,7 @@
 #include "output/ui/PageOutput.h"
 #include "output/ui/PrintRun.h"
 #include "session/Session.h"
+#include "support/PdfText.h"
 #include "support/TestSupport.h"
 #include "text/TextDB.h"
 
@@ -46,16 +47,7 @@ protected:
         CloseTextDB(Session().TextDB);
     }
     // The text of a PDF, or an empty string when the tool isn't there.
-    static QString pdfText(const QString &file)
-    {
-        const QString tool = QStandardPaths::findExecutable("pdftotext");
-        if (tool.isEmpty())
-            return {};
-        QProcess p;
-        p.start(tool, {"-layout", file, "-"});
-        p.waitForFinished();
-        return QString::fromUtf8(p.readAllStandardOutput());
-    }
+    static QString pdfText(const QString &file) { return PdfText(file); }
     // A topic page made and loaded as the topic list does it.
     template <typename Page> static std::unique_ptr<Page> load()
     {
